@@ -1,0 +1,24 @@
+import QtQuick
+import PebbleUI
+
+// The box that a choice stands in. An outline tells of a warning or an error.
+Rectangle {
+    id: _top
+
+    required property Item target
+    required property bool active
+    required property color outlineColor
+
+    readonly property bool _outlined: outlineColor.a > 0
+
+    radius: PebbleStyle.size.smallRadius
+    color: active ? PebbleStyle.color.darkGray : PebbleStyle.color.darkerGray
+    border.width: _outlined ? PebbleStyle.size.focusRing : PebbleStyle.size.border
+    border.color: _outlined ? outlineColor : PebbleStyle.color.gray
+    opacity: enabled ? 1 : PebbleStyle.size.disabledOpacity
+
+    PbFocusRing {
+        target: _top.target
+        targetRadius: _top.radius
+    }
+}

@@ -1,0 +1,40 @@
+import QtQuick
+import QtQuick.Controls.Fusion
+import PebbleUI
+
+// The list under a choice. It stays within the window and scrolls when it would be longer.
+Popup {
+    id: _top
+
+    required property ComboBox box
+
+    y: box.height + PebbleStyle.size.spacingTiny
+    width: box.width
+    height: Math.min(_list.contentHeight + topPadding + bottomPadding, _room)
+    margins: PebbleStyle.size.popupMargin
+    padding: PebbleStyle.size.spacingTiny
+
+    readonly property real _room: (box.Window.window?.height ?? Number.POSITIVE_INFINITY) - 2 * margins
+
+    contentItem: ListView {
+        id: _list
+        clip: true
+        implicitHeight: contentHeight
+        model: _top.box.delegateModel
+        currentIndex: _top.box.highlightedIndex
+        highlightRangeMode: ListView.ApplyRange
+        highlightMoveDuration: 0
+        boundsBehavior: Flickable.StopAtBounds
+        Accessible.role: Accessible.List
+        Accessible.name: _top.box.Accessible.name
+
+        ScrollBar.vertical: PbScrollBar {}
+    }
+
+    background: Rectangle {
+        radius: PebbleStyle.size.smallRadius
+        color: PebbleStyle.color.darkestGray
+        border.width: PebbleStyle.size.border
+        border.color: PebbleStyle.color.gray
+    }
+}

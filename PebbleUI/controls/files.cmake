@@ -1,0 +1,41 @@
+# What a control does stands in controls/behaviour, how it looks in controls.
+list(APPEND PEBBLE_QML
+  controls/PbAutoPilotDot.qml
+  controls/PbBusySpinner.qml
+  controls/PbButton.qml
+  controls/PbButtonContent.qml
+  controls/PbButtonStyle.qml
+  controls/PbCheckBox.qml
+  controls/PbComboBox.qml
+  controls/PbComboFace.qml
+  controls/PbComboFrame.qml
+  controls/PbComboIndicator.qml
+  controls/PbComboPopup.qml
+  controls/PbComboRow.qml
+  controls/PbComboSectionRow.qml
+  controls/PbGridOption.qml
+  controls/PbGridSelect.qml
+  controls/PbInfoTipBox.qml
+  controls/PbLabel.qml
+  controls/PbLabeledSlider.qml
+  controls/PbLabeledTextField.qml
+  controls/PbMultiComboBox.qml
+  controls/PbRadioButton.qml
+  controls/PbScrollBar.qml
+  controls/PbSectionedComboBox.qml
+  controls/PbSlider.qml
+  controls/PbSliderTrack.qml
+  controls/PbStateColors.qml
+  controls/PbSwitch.qml
+  controls/PbTextField.qml
+  controls/behaviour/PbDoublePress.qml
+  controls/behaviour/PbFieldRules.qml
+  controls/behaviour/PbGridRules.qml
+  controls/behaviour/PbNumberText.qml
+  controls/behaviour/PbRowReader.qml
+  controls/behaviour/PbSectionRules.qml
+  controls/behaviour/PbSliderRules.qml
+)
+list(APPEND PEBBLE_SINGLETONS
+  controls/PbButtonStyles.qml
+)

@@ -1,0 +1,5 @@
+# Parts that controls are made of, usable by themselves.
+list(APPEND PEBBLE_QML
+  elements/PbFocusRing.qml
+  elements/PbIcon.qml
+)

@@ -1,0 +1,7 @@
+import QtQuick
+
+Window {
+    width: 1200
+    height: 900
+    visible: true
+}

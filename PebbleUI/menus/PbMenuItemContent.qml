@@ -1,0 +1,51 @@
+import QtQuick
+import QtQuick.Layouts
+import PebbleUI
+
+// What stands in a row of a menu: check mark or icon, text, Autopilot's dot, the key.
+RowLayout {
+    id: _top
+
+    required property string text
+    required property url iconSource
+    required property color color
+    required property bool checkable
+    required property bool checked
+    required property bool autoSuggested
+    required property string keyText
+
+    spacing: PebbleStyle.size.spacing
+
+    PbIcon {
+        objectName: "check"
+        visible: _top.checkable
+        opacity: _top.checked ? 1 : 0
+        iconSource: PebbleStyle.icon.check
+        color: _top.color
+    }
+
+    PbIcon {
+        iconSource: _top.iconSource
+        color: _top.color
+    }
+
+    PbLabel {
+        text: _top.text
+        color: _top.color
+        Accessible.ignored: true
+        Layout.fillWidth: true
+    }
+
+    PbAutoPilotDot {
+        visible: _top.autoSuggested
+    }
+
+    PbLabel {
+        visible: text !== ""
+        text: _top.keyText
+        type: PbLabel.Type.Label
+        color: _top.enabled ? PebbleStyle.color.lightGray : _top.color
+        elide: Text.ElideNone
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,7 @@
+# Tooltips and the plane they appear in. Where one stands is decided in PbTipPlacement, without a window.
+list(APPEND PEBBLE_QML
+  tooltips/PbHoverTip.qml
+  tooltips/PbTipPlacement.qml
+  tooltips/PbTooltipPlane.qml
+  tooltips/PbTooltipView.qml
+)

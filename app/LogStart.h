@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// Starts logging; called once by an entry, before the application object exists and before the
+/// application's identity is set. Returns the log folder. The entry ends with TLogger::shutdown().
+QString startLog(bool plainConsole, int consoleLevel);

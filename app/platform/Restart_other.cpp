@@ -1,0 +1,9 @@
+#include "app/platform/Restart.h"
+
+namespace System {
+
+int registerRestart() {
+    return NoRestartService;
+}
+
+} // namespace System

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QMap>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+enum class OutputFormat { Preserve = 0, Jpeg = 1, Png = 2, Tiff = 3, Dng = 4 };
+enum class TiffCompression { None = 0, Zip = 1, Lzw = 2 };
+
+/// What the command line of a batch run decides.
+struct BatchOptions {
+    bool validArguments = true; ///< cleared by a bad option; the run then ends before any work
+    bool recursive = false;
+    bool overwrite = false;
+    bool showSettings = false;
+    bool skipProcessing = false;
+    bool keepGoing = false; ///< go on past a file that fails, and tell at the end
+
+    QSet<QString> inputDirectories; ///< every directory named, cleaned
+    QString outputFolder;           ///< empty: each picture goes beside its source
+
+    OutputFormat outputFormat = OutputFormat::Preserve;
+    int jpegQuality = 95;   ///< 0 to 100
+    int pngCompression = 2; ///< 0 to 10
+    TiffCompression tiffCompression = TiffCompression::None;
+    int tiffBitDepth = 16; ///< 8 or 16
+
+    QMultiMap<QString, QString> overrides; ///< category to "key=value", the latest written first
+    bool overrideAutopilot = false;
+
+    QStringList missingPaths; ///< named but not there; filled under keepGoing only
+};
+
+/// Part of an option's name to the category that it switches on. The order decides ties.
+inline QMap<QString, QString> categoryStems() {
+    return {{QStringLiteral("color"), QStringLiteral("White Balance Adjust")},
+            {QStringLiteral("face"), QStringLiteral("Face Recovery")},
+            {QStringLiteral("light"), QStringLiteral("Exposure Adjust")},
+            {QStringLiteral("nois"), QStringLiteral("Denoise")},
+            {QStringLiteral("raw"), QStringLiteral("RAW")},
+            {QStringLiteral("sharpen"), QStringLiteral("Sharpen")},
+            {QStringLiteral("upscal"), QStringLiteral("Enhance")}};
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "cli/BatchOptions.h"
+
+/// Readers for the values of single options. Each stores the value and tells whether it is good;
+/// a bad one has been told on standard error.
+namespace optionValues {
+
+bool outputFolder(const QString &value, BatchOptions &options);
+bool format(const QString &value, BatchOptions &options);
+bool jpegQuality(const QString &value, BatchOptions &options);
+bool pngCompression(const QString &value, BatchOptions &options);
+bool bitDepth(const QString &value, BatchOptions &options);
+bool tiffCompression(const QString &value, BatchOptions &options);
+
+} // namespace optionValues

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "cli/BatchOptions.h"
+
+#include <QVariantMap>
+
+class TControls;
+
+/// The filters that a batch run looks at, in the order in which they run.
+QStringList batchFilterOrder();
+
+/// Puts on the current image the filters that Autopilot enabled, then the user's overrides on top,
+/// and sets the order of processing. `autopilot` is Autopilot's answer: category to settings.
+class SettingsMerge {
+public:
+    SettingsMerge(TControls &controls, const BatchOptions &options, const QStringList &filterOrder,
+                  const QMap<QString, QString> &categories);
+
+    void apply(const QVariantMap &autopilot);
+
+private:
+    void initialize(const QString &category, const QVariantMap &settings);
+    void applyAutopilot(const QVariantMap &autopilot);
+    void applyOverrides(const QVariantMap &autopilot);
+    void applyOverride(const QString &category, const QString &text);
+    void setOrder();
+
+    TControls &m_controls;
+    const BatchOptions &m_options;
+    const QStringList &m_filterOrder;
+    const QMap<QString, QString> &m_categories;
+};

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "contracts/Autopilot.h"
+#include "contracts/ProcessingBackend.h"
+#include "engine/analysis/ImageStatistics.h"
+
+namespace Analysis {
+
+/// What was measured, in the units of the thresholds, and the levels it amounts to.
+struct Findings {
+    double noise = 0; ///< root mean square over the channels, 8-bit scale
+    double blur = 0;  ///< Gaussian sigma in pixels
+    bool motion = false;
+    Autopilot::Level noiseLevel = Autopilot::Level::None;
+    Autopilot::Level blurLevel = Autopilot::Level::None;
+};
+
+Findings findingsOf(const ImageStatistics &statistics);
+
+/// The findings on the scale on which the status view names them.
+double shownNoise(double noise);
+double shownBlur(double blur);
+
+/// "low" to "severe"; no level has no name.
+QString nameOf(Autopilot::Level level);
+
+/// The preferences count strengths from 0, very weak, over 3, normal, to 4, strong.
+double strengthFactor(int strength);
+
+/// One category's recommendation.
+struct Advice {
+    QString category;
+    bool enabled = false;
+    QString model;
+    QVariantMap parameters;
+    double measured = 0;
+    double threshold = 0;
+    QString reason;
+};
+
+struct AdviceInput {
+    const EngineInput &image;
+    const ImageStatistics &statistics;
+    const Autopilot::Preferences &preferences;
+    Findings findings;
+};
+
+/// "RAW" for camera files, otherwise "Denoise".
+Advice adviseNoise(const AdviceInput &input);
+Advice adviseSharpen(const AdviceInput &input);
+/// `deblurred` and `denoised`: filters that run earlier take care of it already.
+Advice adviseSize(const AdviceInput &input, bool denoised, bool deblurred);
+Advice adviseExposure(const AdviceInput &input);
+Advice adviseColour(const AdviceInput &input);
+
+/// For pictures with little noise and little blur of which both would be treated: one treatment is
+/// enough, and which one, the user may have said. Switches the other off.
+void settleConflict(const AdviceInput &input, Advice &noise, Advice &sharpen);
+
+/// Upscaling treats moderate noise and blur itself: switches the filters off that would do so.
+void leaveToUpscaling(const AdviceInput &input, const Advice &size, Advice &noise, Advice &sharpen);
+
+} // namespace Analysis

@@ -1,0 +1,113 @@
+#include "engine/analysis/Advice.h"
+#include "engine/analysis/Thresholds.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Analysis {
+
+namespace {
+
+using Autopilot::Level;
+
+/// The view gives what lies above a boundary the higher level, the findings what lies on it.
+constexpr double Above = 1e-6;
+
+Level levelOfNoise(double noise) {
+    if (noise >= Thresholds::NoiseSevere)
+        return Level::Severe;
+    if (noise >= Thresholds::NoiseHigh)
+        return Level::High;
+    if (noise >= Thresholds::NoiseMedium)
+        return Level::Medium;
+    return noise >= Thresholds::NoiseLow ? Level::Low : Level::None;
+}
+
+Level levelOfBlur(double blur) {
+    if (blur >= Thresholds::BlurHigh)
+        return Level::High;
+    if (blur >= Thresholds::BlurMedium)
+        return Level::Medium;
+    return blur >= Thresholds::BlurLow ? Level::Low : Level::None;
+}
+
+struct Knot {
+    double from;
+    double to;
+};
+
+template <std::size_t N>
+double interpolate(const std::array<Knot, N> &knots, double value) {
+    for (std::size_t i = 1; i < N; ++i) {
+        if (value <= knots[i].from) {
+            const Knot &a = knots[i - 1];
+            const Knot &b = knots[i];
+            return a.to + (value - a.from) / (b.from - a.from) * (b.to - a.to);
+        }
+    }
+    return knots[N - 1].to;
+}
+
+} // namespace
+
+Findings findingsOf(const ImageStatistics &statistics) {
+    Findings findings;
+    double sum = 0;
+    for (const float channel : statistics.noise)
+        sum += double(channel) * double(channel);
+    findings.noise = 255 * std::sqrt(sum / 3);
+    findings.noiseLevel = levelOfNoise(findings.noise);
+    if (statistics.edgeShare < Thresholds::FewestEdges)
+        return findings;
+    findings.blur = statistics.blur;
+    findings.motion = statistics.motionBlur && statistics.motionLength >= Thresholds::MotionLength &&
+                      statistics.edgeShare >= Thresholds::MotionEdges;
+    // A smear is as wide as a box of its length in one direction, and nothing in the other.
+    if (findings.motion)
+        findings.blur = std::max(findings.blur, double(statistics.motionLength) / std::sqrt(24.0));
+    findings.blurLevel = levelOfBlur(findings.blur);
+    return findings;
+}
+
+double shownNoise(double noise) {
+    using namespace Thresholds;
+    const double shown = interpolate<5>({{{0, 0},
+                                          {NoiseMedium, ShownNoiseMedium},
+                                          {NoiseHigh, ShownNoiseHigh},
+                                          {NoiseSevere, ShownNoiseSevere},
+                                          {100, 1 - Above}}},
+                                        noise);
+    return noise >= NoiseMedium ? shown + Above : shown;
+}
+
+double shownBlur(double blur) {
+    using namespace Thresholds;
+    const double shown = interpolate<4>(
+        {{{0, 0}, {BlurMedium, ShownBlurMedium}, {BlurHigh, ShownBlurHigh}, {10, 1 - Above}}}, blur);
+    return blur >= BlurMedium ? shown + Above : shown;
+}
+
+QString nameOf(Level level) {
+    switch (level) {
+    case Level::Low:
+        return QStringLiteral("low");
+    case Level::Medium:
+        return QStringLiteral("medium");
+    case Level::High:
+        return QStringLiteral("high");
+    case Level::Severe:
+        return QStringLiteral("severe");
+    case Level::Unknown:
+    case Level::None:
+        break;
+    }
+    return {};
+}
+
+double strengthFactor(int strength) {
+    constexpr std::array<double, 5> Factors = {0.4, 0.6, 0.8, 1.0, 1.25};
+    return Factors[std::size_t(std::clamp(strength, 0, int(Factors.size()) - 1))];
+}
+
+} // namespace Analysis

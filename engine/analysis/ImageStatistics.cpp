@@ -1,0 +1,47 @@
+#include "engine/analysis/ImageStatistics.h"
+
+#include "engine/analysis/Blur.h"
+#include "engine/analysis/Compression.h"
+#include "engine/analysis/Noise.h"
+#include "engine/analysis/Sampling.h"
+#include "engine/analysis/Tones.h"
+
+ImageStatistics measureImage(const ImageData &image, std::stop_token stop) {
+    using namespace Analysis;
+    constexpr int SmallSide = 320;
+
+    ImageStatistics answer;
+    if (image.isNull())
+        return answer;
+    const std::vector<Crop> spread = spreadTiles(image, stop);
+    const NoiseLevels noise = measureNoise(spread, stop);
+    const CompressionLevels compression = measureCompression(spread, stop);
+    const BlurLevels blur = measureBlur(busyTiles(image, stop), noise.luma, stop);
+    if (stop.stop_requested())
+        return answer;
+    const Crop small = readSmall(image, SmallSide);
+    const Tones tones = measureTones(small);
+    const Light light = measureLight(small);
+
+    answer.width = image.width();
+    answer.height = image.height();
+    answer.noise = noise.rgb;
+    answer.lumaNoise = noise.luma;
+    answer.chromaNoise = noise.chroma;
+    answer.grainSize = noise.grainSize;
+    answer.blur = blur.sigma;
+    answer.edgeShare = blur.edgeShare;
+    answer.motionBlur = blur.motion;
+    answer.motionLength = blur.motionLength;
+    answer.motionAngle = blur.motionAngle;
+    answer.jpegQuality = compression.quality;
+    answer.blockiness = compression.blockiness;
+    answer.lumaLow = tones.low;
+    answer.lumaMedian = tones.median;
+    answer.lumaHigh = tones.high;
+    answer.clippedLow = tones.clippedLow;
+    answer.clippedHigh = tones.clippedHigh;
+    answer.illuminant = light.colour;
+    answer.castConfidence = light.confidence;
+    return answer;
+}

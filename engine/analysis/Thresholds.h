@@ -1,0 +1,75 @@
+#pragma once
+
+/// Every number that turns a measurement into a recommendation, with its reason. Noise is a
+/// standard deviation on the 8-bit scale, blur a Gaussian sigma in pixels.
+///
+/// "Photographs" below are desktop photographs reduced to between a third and a half, which takes
+/// compression away: they measure 0 to 2.3 in noise and 0 to 1.25 in blur.
+namespace Thresholds {
+
+// Noise levels. Low starts where noise can be seen in a smooth sky at 100 %.
+inline constexpr double NoiseLow = 1.7;
+/// Well above what any clean photograph measures; taking noise of this strength away
+/// gains more than 3 dB.
+inline constexpr double NoiseMedium = 3.2;
+/// Noise hides fine texture: ISO 3200 and more on a small sensor.
+inline constexpr double NoiseHigh = 12;
+/// Noise hides edges of low contrast.
+inline constexpr double NoiseSevere = 25;
+/// The normal model's scale ends at 50; past this, its slider would have no room to go up.
+inline constexpr double NoiseExtreme = 45;
+
+// Blur levels. Below Low, edges are as narrow as a good lens and a sensor give them.
+inline constexpr double BlurLow = 1.0;
+/// Above the softest clean photograph (1.25).
+inline constexpr double BlurMedium = 1.35;
+/// Detail of five pixels and less is gone.
+inline constexpr double BlurHigh = 2.5;
+/// Fewer edge pixels than this share tell nothing about sharpness: fog, sky, a blank wall.
+inline constexpr double FewestEdges = 0.002;
+/// A smear of this length in pixels turns Sharpen on though edges along it are sharp. Shorter ones
+/// are found in clean photographs of grass and facades.
+inline constexpr double MotionLength = 12;
+/// And more edges than this, or a calm sea passes for a smear.
+inline constexpr double MotionEdges = 0.02;
+
+// The scale that the view of a running analysis reads: these values there begin a level.
+inline constexpr double ShownNoiseMedium = 0.09;
+inline constexpr double ShownNoiseHigh = 0.33;
+inline constexpr double ShownNoiseSevere = 0.5;
+inline constexpr double ShownBlurMedium = 0.22;
+inline constexpr double ShownBlurHigh = 0.37;
+
+// Where the sliders of a filter stand that is off, so that switching it on shows an effect.
+inline constexpr double RestingNoise = 3;
+inline constexpr double RestingBlur = 0.8;
+
+// Compression: below this quality blocks and ringing are seen at 100 %.
+inline constexpr int PoorQuality = 50;
+/// From here on, compression leaves nothing to see.
+inline constexpr int FineQuality = 90;
+
+// Upscaling of small pictures: up to this many pixels, by at least and at most these factors.
+inline constexpr double UpscaledPixels = 12'000'000;
+inline constexpr double LeastUpscale = 1.5;
+inline constexpr double MostUpscale = 4;
+/// Icons and swatches are not photographs in need of pixels.
+inline constexpr int SmallestSide = 32;
+// Limits of the size controls.
+inline constexpr double MinScale = 0.2;
+inline constexpr double MaxScale = 6;
+inline constexpr int MaxSide = 32'000;
+
+// Exposure. A picture is dark when half of it lies below the first and nothing comes near white;
+// bright the other way round. Night scenes with lamps and snow with shadows are left alone.
+inline constexpr double DarkMedian = 0.2;
+inline constexpr double DarkHighest = 0.6;
+inline constexpr double BrightMedian = 0.85;
+inline constexpr double BrightLowest = 0.35;
+
+// Colour cast: deviation of the light from white, as the largest natural logarithm of a channel
+// over green, and how far the guesses of the light must agree. Evening light is below it.
+inline constexpr double Cast = 0.25;
+inline constexpr double CastConfidence = 0.75;
+
+} // namespace Thresholds

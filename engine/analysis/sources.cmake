@@ -1,0 +1,21 @@
+# Included by the engine's own list; paths from the engine's folder.
+set(ORVANE_ANALYSIS_SOURCES
+  analysis/Advice.h
+  analysis/Analyse.cpp analysis/Analyse.h
+  analysis/BlockSpectrum.cpp analysis/BlockSpectrum.h
+  analysis/Blur.cpp analysis/Blur.h
+  analysis/ClippedNoise.cpp analysis/ClippedNoise.h
+  analysis/Compression.cpp analysis/Compression.h
+  analysis/Findings.cpp
+  analysis/ImageStatistics.cpp analysis/ImageStatistics.h
+  analysis/Motion.cpp analysis/Motion.h
+  analysis/Noise.cpp analysis/Noise.h
+  analysis/NoiseAdvice.cpp
+  analysis/Planes.cpp analysis/Planes.h
+  analysis/Sampling.cpp analysis/Sampling.h
+  analysis/SharpenAdvice.cpp
+  analysis/SizeAdvice.cpp
+  analysis/Smoothing.cpp analysis/Smoothing.h
+  analysis/Thresholds.h
+  analysis/ToneAdvice.cpp
+  analysis/Tones.cpp analysis/Tones.h)

@@ -1,0 +1,90 @@
+#include "engine/catalogue/ModelDefinition.h"
+
+#include <QJsonDocument>
+
+#include <cmath>
+
+namespace {
+
+constexpr qsizetype MaxBytes = 256 * 1024;
+constexpr qsizetype MaxParameters = 64;
+constexpr qsizetype MaxName = 100;
+
+bool isName(const QString &s) {
+    return !s.trimmed().isEmpty() && s.size() <= MaxName;
+}
+
+/// Empty when the parameter stands in `out`, otherwise what is wrong with it.
+QString readParameter(const QString &name, const QJsonValue &value, ParameterDefinition &out) {
+    if (!isName(name) || !value.isObject())
+        return QStringLiteral("parameter \"%1\" is not an object").arg(name.left(MaxName));
+    const QJsonObject object = value.toObject();
+    const QJsonValue initial = object.value(QStringLiteral("default"));
+    out.name = name;
+    out.role = object.value(QStringLiteral("role")).toString();
+    out.isFlag = initial.isBool();
+    if (out.isFlag) {
+        out.initial = initial.toBool();
+        return {};
+    }
+    out.initial = initial.toDouble(0);
+    out.minimum = object.value(QStringLiteral("min")).toDouble(0);
+    out.maximum = object.value(QStringLiteral("max")).toDouble(1);
+    if (!std::isfinite(out.initial) || !std::isfinite(out.minimum) || !std::isfinite(out.maximum) ||
+        out.minimum > out.maximum)
+        return QStringLiteral("parameter \"%1\" has no valid range").arg(name);
+    return {};
+}
+
+} // namespace
+
+const ParameterDefinition *ModelDefinition::byRole(const QString &role) const {
+    for (const ParameterDefinition &parameter : parameters)
+        if (parameter.role == role)
+            return &parameter;
+    return nullptr;
+}
+
+double ModelDefinition::constant(const QString &name, double fallback) const {
+    return constants.value(name).toDouble(fallback);
+}
+
+QString ModelDefinition::text(const QString &name, const QString &fallback) const {
+    return constants.value(name).toString(fallback);
+}
+
+std::optional<ModelDefinition> parseModelDefinition(const QByteArray &json, QString *error) {
+    const auto fail = [error](const QString &message) -> std::optional<ModelDefinition> {
+        *error = message;
+        return std::nullopt;
+    };
+    if (json.size() > MaxBytes)
+        return fail(QStringLiteral("it is larger than %1 KiB").arg(MaxBytes / 1024));
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
+    if (!document.isObject())
+        return fail(
+            parseError.error == QJsonParseError::NoError
+                ? QStringLiteral("it does not hold an object")
+                : QStringLiteral("at byte %1: %2").arg(parseError.offset).arg(parseError.errorString()));
+    const QJsonObject object = document.object();
+    ModelDefinition definition;
+    definition.category = object.value(QStringLiteral("category")).toString();
+    definition.model = object.value(QStringLiteral("model")).toString();
+    definition.kind = object.value(QStringLiteral("kind")).toString();
+    definition.operation = object.value(QStringLiteral("operation")).toString();
+    definition.constants = object.value(QStringLiteral("constants")).toObject();
+    if (!isName(definition.category) || !isName(definition.model) || !isName(definition.operation))
+        return fail(QStringLiteral("it names no category, model or operation"));
+    const QJsonObject parameters = object.value(QStringLiteral("parameters")).toObject();
+    if (parameters.size() > MaxParameters)
+        return fail(QStringLiteral("it has more than %1 parameters").arg(MaxParameters));
+    for (auto it = parameters.begin(); it != parameters.end(); ++it) {
+        ParameterDefinition parameter;
+        const QString problem = readParameter(it.key(), it.value(), parameter);
+        if (!problem.isEmpty())
+            return fail(problem);
+        definition.parameters.append(parameter);
+    }
+    return definition;
+}

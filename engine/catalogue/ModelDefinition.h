@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+/// A parameter of a model: its name in settings and the role it plays in the operation.
+struct ParameterDefinition {
+    QString name;
+    QString role;
+    bool isFlag = false; ///< true or false, held as 1 or 0
+    double initial = 0;
+    double minimum = 0;
+    double maximum = 1;
+};
+
+/// One model as its definition file describes it.
+struct ModelDefinition {
+    QString category;
+    QString model;
+    QString kind;      ///< "classical"
+    QString operation; ///< the filter that runs it
+    QList<ParameterDefinition> parameters;
+    QJsonObject constants; ///< what the operation wants to know besides; fixed for the model
+
+    const ParameterDefinition *byRole(const QString &role) const;
+    double constant(const QString &name, double fallback) const;
+    QString text(const QString &name, const QString &fallback) const;
+};
+
+/// Reads a definition file's contents: JSON of at most 256 KiB, at most 64 parameters, ranges
+/// finite and in order. On failure nothing, and `error` says why.
+std::optional<ModelDefinition> parseModelDefinition(const QByteArray &json, QString *error);

@@ -1,0 +1,5 @@
+#pragma once
+
+#include "engine/filters/Filters.h"
+
+std::unique_ptr<Stage> makeWhiteBalanceStage(const FilterInput &input);

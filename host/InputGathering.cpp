@@ -1,0 +1,69 @@
+#include "host/InputGathering.h"
+
+#include "contracts/TImageUtils.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QSet>
+
+namespace {
+
+class Gatherer {
+public:
+    Gatherer() {
+        const QStringList formats = TImageUtils::supportedFileFormats();
+        m_formats = QSet<QString>(formats.begin(), formats.end());
+    }
+
+    bool isSupported(const QString &path) const {
+        return m_formats.contains(QFileInfo(path).suffix().toLower());
+    }
+
+    void add(const QString &path) {
+        if (m_input.images.size() < MaxGatheredFiles && !m_seen.contains(path)) {
+            m_seen.insert(path);
+            m_input.images.append(path);
+        }
+    }
+
+    void addFolder(const QString &folder) {
+        QStringList found;
+        QDirIterator walk(folder, QDir::Files, QDirIterator::Subdirectories);
+        while (walk.hasNext() && found.size() < MaxGatheredFiles) {
+            const QString path = walk.next();
+            if (isSupported(path))
+                found.append(path);
+        }
+        found.sort();
+        for (const QString &path : std::as_const(found))
+            add(path);
+        if (found.isEmpty())
+            addInvalid(folder);
+    }
+
+    void addInvalid(const QString &path) { m_input.invalid.append(path); }
+    GatheredInput take() { return std::move(m_input); }
+
+private:
+    QSet<QString> m_formats;
+    QSet<QString> m_seen;
+    GatheredInput m_input;
+};
+
+} // namespace
+
+GatheredInput gatherInput(const QStringList &words) {
+    Gatherer gatherer;
+    for (const QString &word : words) {
+        if (word.isEmpty())
+            continue;
+        const QFileInfo info(word);
+        if (info.isDir())
+            gatherer.addFolder(info.absoluteFilePath());
+        else if (info.isFile() && gatherer.isSupported(word))
+            gatherer.add(info.absoluteFilePath());
+        else if (info.exists() || !word.startsWith(QLatin1Char('-')))
+            gatherer.addInvalid(info.absoluteFilePath());
+    }
+    return gatherer.take();
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QStringList>
+
+/// What a list of words from outside (arguments, dropped or merged paths) amounts to.
+struct GatheredInput {
+    QStringList images;  ///< absolute paths of files whose extension can be opened, no duplicates
+    QStringList invalid; ///< what exists but can't be opened, or does not exist
+};
+
+/// Folders are walked whole; their unsupported files are passed over in silence, since a folder of
+/// photographs often holds others. Words that begin with "-" are options, unless such a file exists.
+/// At most MaxGatheredFiles images are taken.
+GatheredInput gatherInput(const QStringList &words);
+
+inline constexpr qsizetype MaxGatheredFiles = 100000;

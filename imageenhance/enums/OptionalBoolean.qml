@@ -1,0 +1,5 @@
+import QtQml
+
+QtObject {
+    enum OptionalBoolean { Unset = -1, False, True }
+}

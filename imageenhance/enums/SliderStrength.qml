@@ -1,0 +1,5 @@
+import QtQml
+
+QtObject {
+    enum Strength { VeryWeak, Weak, Less, Normal, Strong }
+}

@@ -1,0 +1,5 @@
+list(APPEND STUDIO_QML
+  enums/OptionalBoolean.qml
+  enums/PreferencesPage.qml
+  enums/SliderStrength.qml
+)

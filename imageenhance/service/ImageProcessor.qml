@@ -1,0 +1,82 @@
+import QtQuick
+import TImageProcessor
+import imageenhance
+
+// The engine, bound to the settings that it follows, and the holder of its latest results for the current image.
+TEngineController {
+    id: _top
+
+    required property MainSettings settings
+    required property var integrations // TIntegrations
+    required property var imageDataUtils // ImageDataUtils
+    required property var strokes // Inpaint strokes not applied yet
+
+    property var maskTextures: ({}) // uid, maskHashes, brushTextures
+    property var superpixels
+    property var faceLandmarks: [] // [x1, y1, x2, y2, confidence] in pixels of the input
+    property var selectionMask
+    property var faceProblems: ({}) // autoFaces, subjectFaces, totalFaces
+    property var salientRatio: null
+    property rect boundingBox: Qt.rect(0, 0, 0, 0)
+    readonly property bool hasInpaintStrokes: strokes.length > 0
+
+    function resetAll(): void {
+        maskTextures = {};
+        superpixels = imageDataUtils.blankImage();
+        faceLandmarks = [];
+        selectionMask = imageDataUtils.blankImage();
+        boundingBox = Qt.rect(0, 0, 0, 0);
+    }
+
+    function takeProblems(uid: string, problems: var): void {
+        if (uid !== inputImage.uid)
+            return;
+        faceLandmarks = problems.faceLandmarks ?? [];
+        salientRatio = problems.salientRatio ?? null;
+        faceProblems = {
+            "autoFaces": problems.autoFaces ?? [],
+            "subjectFaces": problems.subjectFaces ?? [],
+            "totalFaces": problems.faceCount ?? 0
+        };
+    }
+
+    Component.onCompleted: resetAll()
+    deviceId: settings.deviceId
+    overlayColor: settings.maskOverlayColor
+    recommendFilters: settings.autopilotRecommendFilters
+    faceDetection: settings.autopilotFaceDetect
+    faceParts: settings.faceParts
+    faceStrength: settings.autopilotFaceStrength
+    sharpeningModel: settings.autopilotSharpeningModel
+    sharpenBlurs: settings.autopilotSharpenBlurs
+    sharpenStrength: settings.autopilotSharpenStrength
+    useNeuralEngine: settings.useNeuralEngine
+    upscalingModel: settings.autopilotUpscalingModel
+    enableDownscaling: settings.autopilotEnableDownscaling
+    // A host that can't take another size gets none.
+    upscalingType: {
+        const type = settings.autopilotUpscalingType;
+        if (resizingSupported)
+            return type;
+        return type === "scale" && settings.autopilotUpscalingFactor === 1 ? "scale" : "none";
+    }
+    upscalingFactor: settings.autopilotUpscalingFactor
+    upscalingParam1Strength: settings.autopilotUpscalingParam1Strength
+    upscalingParam2Strength: settings.autopilotUpscalingParam2Strength
+    resizingSupported: !integrations.isPluginMode || integrations.resizingSupported
+    resolutionUnit: settings.autopilotResolutionUnit
+    resolution: settings.autopilotDefaultResolution
+    denoisingModel: settings.autopilotDenoisingModel
+    denoiseLevels: settings.autopilotDenoiseLevels
+    denoiseStrength: settings.autopilotDenoiseStrength
+    denoisingRawModel: settings.autopilotDenoisingRawModel
+    denoiseRawLevels: settings.autopilotDenoiseRawLevels
+    denoiseRawStrength: settings.autopilotDenoiseRawStrength
+    conflictResolutionPref: settings.autopilotConflictResolutionPref
+    exposureStrength: settings.autopilotNonRAWExposureStrength
+    exposureRAWStrength: settings.autopilotRAWExposureStrength
+    temperatureValue: settings.autopilotTemperatureValue
+    opacityValue: settings.autopilotOpacityValue
+    textModel: settings.autopilotTextModel
+    textStrength: settings.autopilotTextStrength
+}

@@ -1,0 +1,76 @@
+import QtQuick
+import TImageIO
+import imageenhance
+
+// What follows when the list of open images changes: recent files, thumbnails, the session list, the filmstrip.
+QtObject {
+    id: _top
+
+    required property var controls // TControls
+    required property var appState // AppState
+    required property var osUtils // OSUtils
+    required property MainSettings settings
+    required property bool pluginMode
+
+    readonly property alias recentFiles: _recentFiles
+    // More than one image was open after the last opening.
+    readonly property alias isFileViewExpanded: _private.fileViewExpanded
+
+    signal opened
+    signal lastClosedByHost // the host's only image went: the window goes, too
+
+    function toggleFileView(): void {
+        _private.fileViewExpanded = !_private.fileViewExpanded;
+    }
+
+    readonly property RecentFiles _recent: RecentFiles {
+        id: _recentFiles
+        settings: _top.settings
+        osUtils: _top.osUtils
+        pluginMode: _top.pluginMode
+    }
+
+    readonly property TThumbnailWriter _writerObject: TThumbnailWriter {
+        id: _writer
+        currentIndex: _top.controls.currentIndex
+        onIndexUpdated: Qt.callLater(_writer.startGenerating)
+        onThumbnailWritten: (index, path, thumbnail) => _thumbnails.written(index, path, thumbnail)
+    }
+
+    readonly property Thumbnails _thumbnailsObject: Thumbnails {
+        id: _thumbnails
+        controls: _top.controls
+        writer: _writer
+    }
+
+    readonly property Connections _ofControls: Connections {
+        target: _top.controls
+
+        function onImagesOpened(images: var): void {
+            _top.opened();
+            _recentFiles.opened(images);
+            _private.fileViewExpanded = _top.controls.loadedImages.length > 1;
+            _thumbnails.refresh();
+        }
+
+        function onImagesClosed(): void {
+            if (_top.pluginMode && _top.controls.loadedImages.length === 0)
+                _top.lastClosedByHost();
+            _thumbnails.refresh();
+        }
+
+        function onImageDataChanged(index: int): void {
+            _thumbnails.imageDataChanged(index);
+        }
+
+        function onLoadedImagesChanged(): void {
+            _top.appState.openFiles = _top.controls.loadedImages;
+            _top.appState.saveFileList();
+        }
+    }
+
+    readonly property QtObject _private: QtObject {
+        id: _private
+        property bool fileViewExpanded: false
+    }
+}

@@ -1,0 +1,34 @@
+import QtQuick
+import imageenhance
+
+// The usage event of a start, a while after the window is shown.
+Timer {
+    id: _top
+
+    required property var tracker // TEventTracker
+    required property var osUtils // OSUtils
+    required property var appWindow // ApplicationWindow
+    required property MainSettings settings
+
+    interval: 5000
+    onTriggered: tracker.track("Application Started", {
+        "width": appWindow.width,
+        "height": appWindow.height,
+        "devices": osUtils.getAIProcessors(),
+        "preferences": _private.preferences()
+    })
+
+    readonly property QtObject _private: QtObject {
+        id: _private
+
+        // How the program is set up; nothing that names files, folders or the user.
+        function preferences(): var {
+            const told = {};
+            for (const key of Object.keys(_top.settings)) {
+                if (/^autopilot|^(colorScheme|deviceId|lastViewMode|defaultCanUploadImages|saveImageFormat)$/.test(key) && typeof _top.settings[key] !== "function")
+                    told[key] = _top.settings[key];
+            }
+            return told;
+        }
+    }
+}

@@ -1,0 +1,57 @@
+import QtQuick
+import TImageSettings
+import imageenhance
+
+// What all views read about the window. State is bound at all times; nothing here is written.
+QtObject {
+    id: _top
+
+    required property var controls // TControls
+    required property var reader // TImageReader
+    required property var integrations // TIntegrations
+    required property Helpers helpers
+    required property int editMode // RightPanel.EditMode
+    property bool isSaving: false
+    property bool isExporting: false
+
+    readonly property bool pluginMode: integrations.isPluginMode
+    readonly property string windowTitle: imageOpen ? helpers.imageUtils.getFilename(controls.currentImage) : ""
+    readonly property bool isLoading: pluginMode ? integrations.loading : reader.loading
+    readonly property bool imageOpen: controls.loadedImages.length > 0
+    readonly property var imageData: pluginMode ? integrations.imagedata : reader.imagedata
+    readonly property string imageSource: pluginMode ? integrations.currentImage : reader.filepath
+    readonly property var imageMetadata: imageData.metadata ?? ({})
+    readonly property real imageOriginalResolution: imageData.resolution ?? 72
+    readonly property int imageOriginalResolutionUnit: imageData.resolutionUnit ?? TImageSettings.Inches
+
+    readonly property var currentControls: controls.currentControls
+    readonly property bool autopilotRunning: imageOpen && currentControls.autoPilot === TImageSettings.Processing
+
+    readonly property bool isRefining: editMode !== RightPanel.EditMode.None
+    readonly property bool isCropping: editMode === RightPanel.EditMode.Crop
+    readonly property bool isEditingSubject: editMode === RightPanel.EditMode.Subject
+    readonly property bool isSelectingFace: editMode === RightPanel.EditMode.Faces
+    readonly property bool isSelectingText: editMode === RightPanel.EditMode.Text
+    readonly property bool isRetouching: editMode === RightPanel.EditMode.Inpaint
+    readonly property bool isMasking: isEditingSubject || isSelectingText || isRetouching
+    // Previews are empty meanwhile.
+    readonly property bool hidesPreview: isSaving || isExporting
+
+    readonly property real currentScale: {
+        const enhance = currentControls["Enhance"];
+        return enhance?.enabled ? enhance.params?.scale ?? 1 : 1;
+    }
+    readonly property size inputSize: {
+        const ofFile = reader.filepath !== "" ? helpers.imageUtils.imageSize(reader.filepath) : Qt.size(-1, -1);
+        return ofFile.width > 0 ? ofFile : helpers.imageDataUtils.imageSize(imageData.image);
+    }
+    readonly property size croppedSize: _top._scaled(1)
+    readonly property size outputSize: _top._scaled(currentScale)
+    readonly property rect currentCropRect: controls.currentImageData.cropRoi ?? Qt.rect(0, 0, 1, 1)
+    readonly property real currentRotation: controls.currentImageData.rotation ?? 0
+    readonly property size currentCropRatio: controls.currentImageData.cropRatio ?? Qt.size(1, 1)
+
+    function _scaled(scale: real): size {
+        return Qt.size(Math.round(inputSize.width * scale * currentCropRect.width), Math.round(inputSize.height * scale * currentCropRect.height));
+    }
+}

@@ -1,0 +1,20 @@
+list(APPEND STUDIO_QML
+  service/AutopilotRun.qml
+  service/ClosingFlow.qml
+  service/ClosingSeveralFlow.qml
+  service/Helpers.qml
+  service/HostConnection.qml
+  service/ImageOpening.qml
+  service/ImageProcessor.qml
+  service/ImageRoad.qml
+  service/InitialFilters.qml
+  service/KeyState.qml
+  service/OpenedImages.qml
+  service/ProcScheduler.qml
+  service/QuitFlow.qml
+  service/RecentFiles.qml
+  service/StartEvent.qml
+  service/StartUp.qml
+  service/Thumbnails.qml
+  service/WindowState.qml
+)

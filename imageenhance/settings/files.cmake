@@ -1,0 +1,3 @@
+list(APPEND STUDIO_QML
+  settings/MainSettings.qml
+)

@@ -1,0 +1,3 @@
+list(APPEND STUDIO_FILES
+  utils/viewport.mjs
+)

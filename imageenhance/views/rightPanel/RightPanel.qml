@@ -1,0 +1,92 @@
+import QtQuick
+import PebbleUI
+import imageenhance
+
+// The column at the window's right edge: the navigator on top, the enhancements under it. Owns the edit mode of the
+// whole window.
+Rectangle {
+    id: _top
+
+    enum EditMode { None, Crop, Subject, Faces, Text, Inpaint }
+
+    required property var controls // TControls
+    required property MainSettings settings
+    required property Item navigator // shown in the panel's slot
+    required property bool imageOpen
+
+    readonly property int fullWidth: 272
+    readonly property int collapsedWidth: 48
+    readonly property bool collapsed: settings.rightPanelCollapsed && editMode !== RightPanel.EditMode.Crop
+    readonly property alias editMode: _private.editMode
+    readonly property alias addingFilter: _filters.addingFilter
+    readonly property alias animating: _animation.running
+    readonly property int navigatorWidth: fullWidth
+    readonly property bool saveButtonActive: false
+
+    signal requestProc // the filter order changed
+
+    function readyToAddFilters(): void {
+        if (editMode === RightPanel.EditMode.None)
+            _filters.load();
+    }
+
+    // Puts all that Autopilot recommends on the image, whatever is there.
+    function applyAutopilot(): void {
+        _filters.applyAutopilot();
+    }
+
+    function closeRefineMode(): void {
+        _private.editMode = RightPanel.EditMode.None;
+    }
+
+    function showSteps(steps: var): void {
+        _private.steps = steps;
+    }
+
+    width: collapsed ? collapsedWidth : fullWidth
+    color: PebbleStyle.color.panelBkg
+    clip: true
+    onNavigatorChanged: _private.takeNavigator()
+    Component.onCompleted: _private.takeNavigator()
+
+    Behavior on width {
+        NumberAnimation {
+            id: _animation
+            duration: 125
+        }
+    }
+
+    Item {
+        id: _navigatorSlot
+
+        width: _top.fullWidth
+        height: _top.navigator?.implicitHeight ?? 0
+        visible: !_top.collapsed && _top.imageOpen
+    }
+
+    InitialFilters {
+        id: _filters
+        controls: _top.controls
+        recommendFilters: _top.settings.autopilotRecommendFilters
+    }
+
+    Connections {
+        target: _top.controls
+
+        function onFilterOrderChanged(): void {
+            _top.requestProc();
+        }
+    }
+
+    QtObject {
+        id: _private
+
+        property int editMode: RightPanel.EditMode.None
+        property var steps: []
+
+        function takeNavigator(): void {
+            if (_top.navigator)
+                _top.navigator.parent = _navigatorSlot;
+        }
+    }
+}

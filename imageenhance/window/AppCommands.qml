@@ -1,0 +1,83 @@
+import QtQuick
+
+// One function for each command of the window, wherever it comes from: menus, keys, buttons.
+QtObject {
+    id: _top
+
+    required property var controls // TControls
+    required property var panel // RightPanel
+    required property var closing // ClosingQuestions
+    required property var osUtils // OSUtils
+    required property var appContext // AppContext
+
+    signal openFileDialog
+    signal closeWindow
+
+    function openFile(): void {
+        openFileDialog();
+    }
+
+    // All opening goes through here.
+    function loadImages(paths: var): void {
+        panel.closeRefineMode();
+        controls.loadImages(paths);
+    }
+
+    function openRecentFile(file: string): void {
+        loadImages([file]);
+    }
+
+    function paste(): void {
+        const paths = osUtils.clipboard();
+        if (paths.length > 0)
+            loadImages(paths);
+        else
+            console.info("Nothing to open on the clipboard");
+    }
+
+    function closeImage(index = controls.currentIndex): void {
+        closing.closeImage(index);
+    }
+
+    function closeSelectedImages(): void {
+        closing.closeSelectedImages();
+    }
+
+    function closeAllImages(): void {
+        closing.closeAllImages();
+    }
+
+    function showFile(): void {
+        osUtils.showFileInGraphicalShell(controls.currentImage);
+    }
+
+    function step(by: int): void {
+        const index = controls.currentIndex + by;
+        if (index >= 0 && index < controls.loadedImages.length)
+            controls.setCurrentIndex(index);
+    }
+
+    function leftArrowKey(): void {
+        step(-1);
+    }
+
+    function rightArrowKey(): void {
+        step(1);
+    }
+
+    function openUrl(url: string): void {
+        Qt.openUrlExternally(url);
+    }
+
+    function openLogDir(): void {
+        osUtils.openFolder(appContext.logDirectory);
+    }
+
+    function openPresetsDir(): void {
+        osUtils.openFolder(appContext.presetsDirectory);
+    }
+
+    function exit(): void {
+        closeWindow();
+    }
+}

@@ -1,0 +1,75 @@
+import QtQuick
+import imageenhance
+
+// The keys of commands.
+Item {
+    id: _top
+
+    required property AppCommands commands
+    required property var preview // ImagePreview
+    required property bool active // no dialog is open
+    required property WindowState windowState
+
+    readonly property bool _image: active && windowState.imageOpen
+    readonly property bool _zooms: _image && !windowState.isCropping
+
+    Shortcut {
+        sequences: [StandardKey.Open]
+        enabled: _top.active && !_top.windowState.pluginMode
+        onActivated: _top.commands.openFile()
+    }
+    Shortcut {
+        sequences: [StandardKey.Paste]
+        enabled: _top.active && !_top.windowState.pluginMode
+        onActivated: _top.commands.paste()
+    }
+    Shortcut {
+        sequence: "Ctrl+W"
+        enabled: _top._image
+        onActivated: _top.commands.closeImage()
+    }
+    Shortcut {
+        sequence: "Ctrl+Shift+W"
+        enabled: _top._image
+        onActivated: _top.commands.closeSelectedImages()
+    }
+    Shortcut {
+        sequence: "Ctrl+Alt+R"
+        enabled: _top._image && !_top.windowState.pluginMode
+        onActivated: _top.commands.showFile()
+    }
+    Shortcut {
+        sequence: "Alt+F4"
+        onActivated: _top.commands.exit()
+    }
+    Shortcut {
+        sequence: "Ctrl+0"
+        enabled: _top._zooms
+        onActivated: _top.preview.zoomToFit()
+    }
+    Shortcut {
+        sequence: "Ctrl+1"
+        enabled: _top._zooms
+        onActivated: _top.preview.resetZoom()
+    }
+    Shortcut {
+        sequences: [StandardKey.ZoomIn, "Ctrl+="]
+        enabled: _top._zooms
+        onActivated: _top.preview.zoomIn()
+    }
+    Shortcut {
+        sequences: [StandardKey.ZoomOut]
+        enabled: _top._zooms
+        onActivated: _top.preview.zoomOut()
+    }
+    Shortcut {
+        sequences: [StandardKey.MoveToNextChar]
+        enabled: _top._image
+        onActivated: _top.commands.rightArrowKey()
+    }
+    Shortcut {
+        sequences: [StandardKey.MoveToPreviousChar]
+        enabled: _top._image
+        onActivated: _top.commands.leftArrowKey()
+    }
+}

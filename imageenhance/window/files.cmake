@@ -1,0 +1,12 @@
+list(APPEND STUDIO_QML
+  window/AppCommands.qml
+  window/AppShortcuts.qml
+  window/DebugConsole.qml
+  window/DebugConsoleLoader.qml
+  window/DimensionsHeader.qml
+  window/OpenImageDialog.qml
+  window/WindowDialogs.qml
+  window/WindowPlace.qml
+  window/WinTitleBar.qml
+  window/WorkArea.qml
+)

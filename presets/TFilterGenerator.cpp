@@ -1,0 +1,122 @@
+#include "presets/TFilterGenerator.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int DrawnFrom = 3;
+
+/// The table's names for the filter categories.
+QString categoryOf(const QString &word) {
+    static const QMap<QString, QString> names = {
+        {u"SHARPEN"_s, u"Sharpen"_s},          {u"DENOISE"_s, u"Denoise"_s},
+        {u"UPSCALE"_s, u"Enhance"_s},          {u"FACE"_s, u"Face Recovery"_s},
+        {u"EXPOSURE"_s, u"Exposure Adjust"_s}, {u"REMOVE"_s, u"Inpaint"_s},
+        {u"TEXT"_s, u"Text Recovery"_s},       {u"TEMPERATURE"_s, u"White Balance Adjust"_s},
+    };
+    return names.value(word, word);
+}
+
+QString translated(const QString &name) {
+    static const QRegularExpression pattern(u"(\\w+)(-.*)?"_s);
+    const QRegularExpressionMatch match = pattern.match(name);
+    return match.hasMatch() ? categoryOf(match.captured(1)) + match.captured(2) : name;
+}
+
+QStringList sequenceOf(QString text) {
+    static const QRegularExpression brackets(u"[\\[\\]']"_s);
+    QStringList parts = text.remove(brackets).split(u',');
+    for (QString &part : parts)
+        part = translated(part.trimmed());
+    return parts;
+}
+
+} // namespace
+
+void TFilterGenerator::load(const QString &filename) {
+    QFile file(filename);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        qCritical() << "Could not open file:" << filename;
+        return;
+    }
+    const QJsonArray rows = QJsonDocument::fromJson(file.readAll()).array();
+    for (const auto &element : rows) {
+        const QJsonObject row = element.toObject();
+        QStringList parts = sequenceOf(row.value("filters_combined"_L1).toString());
+        if (parts.size() < 2)
+            continue;
+        const QString next = parts.takeLast();
+        m_filterSequences[parts.join(u',')].append({next, row.value("count"_L1).toDouble()});
+    }
+    file.close();
+    qInfo() << "Finished loading JSON file:" << filename;
+}
+
+QString TFilterGenerator::suggestNextFilter(const QStringList &appliedFilters,
+                                            const QStringList &excludeFilters) {
+    if (appliedFilters.isEmpty())
+        return mostUsedSingleFilter(excludeFilters);
+
+    const QString key = appliedFilters.join(u',');
+    qDebug() << "Looking for key:" << key;
+    const auto found = m_filterSequences.find(key);
+    if (found == m_filterSequences.end()) {
+        qDebug() << "Key not found in filterSequences:" << key;
+        return {};
+    }
+    std::sort(found->begin(), found->end(),
+              [](const Continuation &a, const Continuation &b) { return a.second > b.second; });
+
+    QList<Continuation> top;
+    double total = 0;
+    for (const Continuation &entry : std::as_const(*found)) {
+        if (appliedFilters.contains(entry.first) || excludeFilters.contains(entry.first))
+            continue;
+        top.append(entry);
+        total += entry.second;
+        if (top.size() == DrawnFrom)
+            break;
+    }
+    if (top.isEmpty()) {
+        qDebug() << "No top filters found for key:" << key;
+        return {};
+    }
+    const double drawn = QRandomGenerator64::global()->generateDouble();
+    double cumulative = 0;
+    for (const Continuation &entry : std::as_const(top)) {
+        cumulative += entry.second / total;
+        if (drawn <= cumulative)
+            return entry.first;
+    }
+    return top.last().first;
+}
+
+QString TFilterGenerator::mostUsedSingleFilter(const QStringList &excludeFilters) const {
+    QMap<QString, double> sums;
+    for (const QList<Continuation> &entries : m_filterSequences) {
+        for (const Continuation &entry : entries) {
+            if (!excludeFilters.contains(entry.first))
+                sums[entry.first] += entry.second;
+        }
+    }
+    QString best;
+    double bestSum = 0;
+    for (auto it = sums.cbegin(); it != sums.cend(); ++it) {
+        if (it.value() > bestSum) {
+            best = it.key();
+            bestSum = it.value();
+        }
+    }
+    qDebug() << "Most used single filter:" << best << "with count:" << bestSum;
+    return best;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QMap>
+#include <QObject>
+#include <QPair>
+#include <QStringList>
+
+/// Suggests the filter that people most often took next, from a table of counts. Knows nothing of the
+/// image. A filter is written as its category, a hyphen and the subject: "Sharpen-Subject", "Enhance-".
+class TFilterGenerator : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    /// Adds a JSON table of { "filters_combined": "['A-x', 'B-y']", "count": n }. A missing file is
+    /// logged and leaves the table as it is; a malformed row is passed over.
+    Q_INVOKABLE
+    void load(const QString &filename);
+
+    /// Draws among the three most frequent continuations by their counts; with nothing applied, the most
+    /// used single filter. Empty when there is none.
+    Q_INVOKABLE
+    QString suggestNextFilter(const QStringList &appliedFilters, const QStringList &excludeFilters = {});
+
+private:
+    using Continuation = QPair<QString, double>;
+
+    QString mostUsedSingleFilter(const QStringList &excludeFilters) const;
+
+    QMap<QString, QList<Continuation>> m_filterSequences;
+};

@@ -1,0 +1,86 @@
+import QtQuick
+import QtTest
+import PebbleUI
+
+// The small controls: boxes, switch, scroll bar, label, note.
+TestCase {
+    id: _top
+    name: "Controls"
+    when: windowShown
+    width: 400
+    height: 300
+    visible: true
+
+    PbTooltipPlane {
+        anchors.fill: parent
+        Component.onCompleted: PebbleStyle.tooltipPlane = this
+    }
+
+    Column {
+
+        PbCheckBox { id: _check; text: "Check" }
+        PbRadioButton { id: _radio; text: "Radio" }
+        PbSwitch { id: _switch; text: "Switch" }
+        PbLabel { id: _label; text: "<b>name</b>.png"; tooltip.text: "A tip" }
+        PbInfoTipBox { id: _note; width: 120; text: "A note of a few words that needs more than one line" }
+    }
+
+    Flickable {
+        id: _area
+        x: 200
+        width: 100
+        height: 100
+        contentWidth: 400
+        contentHeight: 400
+
+        PbScrollBar { id: _upright; orientation: Qt.Vertical; size: 0.01; height: 100 }
+        PbScrollBar { id: _lying; orientation: Qt.Horizontal; size: 0.25; width: 100; barWidth: 12 }
+    }
+
+    function init(): void {
+        failOnWarning(/.?/);
+    }
+
+    function test_boxes_by_keyboard(): void {
+        _check.forceActiveFocus(Qt.TabFocusReason);
+        for (const box of [_check, _radio, _switch]) {
+            verify(box.visualFocus);
+            const ring = box.indicator.children.find(child => child instanceof PbFocusRing);
+            verify(ring.visible);
+            keyClick(Qt.Key_Space);
+            verify(box.checked);
+            keyClick(Qt.Key_Tab);
+            verify(!ring.visible);
+        }
+    }
+
+    function test_boxes_by_mouse_leave_the_keyboard_alone(): void {
+        _top.forceActiveFocus();
+        for (const box of [_check, _radio, _switch]) {
+            mouseClick(box, box.width - 4, box.height / 2);
+            verify(!box.activeFocus);
+        }
+    }
+
+    function test_label_shows_outside_text_as_it_is(): void {
+        compare(_label.textFormat, Text.PlainText);
+        mouseMove(_label, 5, 5);
+        verify(_label.hovered);
+        mouseMove(_top, 399, 299);
+        verify(!_label.hovered);
+    }
+
+    function test_note_grows_with_its_text(): void {
+        const before = _note.implicitHeight;
+        _note.width = 300;
+        verify(_note.implicitHeight < before);
+    }
+
+    function test_scroll_bars_are_equally_thick(): void {
+        compare(_upright.width, 8);
+        compare(_lying.height, 12);
+        fuzzyCompare(_upright.visualSize, 0.1, 0.001);
+        _lying.size = 1;
+        verify(!_lying.visible);
+    }
+}

@@ -1,0 +1,144 @@
+import QtQuick
+import QtTest
+import PebbleUI
+
+TestCase {
+    id: _top
+    name: "SectionedComboBox"
+    when: windowShown
+    width: 400
+    height: 400
+    visible: true
+
+    // Sections at both ends, two in a row, and a rule.
+    readonly property list<var> entries: [
+        { section: true, text: "First" },
+        { text: "Alpha", value: "a" },
+        { section: true, text: null },
+        { section: true, text: "Again" },
+        { text: "Beta", value: "b" },
+        { text: "Again and again", value: "c" },
+        { section: true, text: "Last" },
+    ]
+
+    Component {
+        id: _maker
+        PbSectionedComboBox { model: _top.entries }
+    }
+
+    SignalSpy { id: _activated; signalName: "activated" }
+
+    function init(): void {
+        failOnWarning(/.?/);
+    }
+
+    function make(properties: var): PbSectionedComboBox {
+        const box = createTemporaryObject(_maker, _top, properties ?? {});
+        _activated.target = box;
+        _activated.clear();
+        return box;
+    }
+
+    function rowOf(box: PbSectionedComboBox, index: int): Item {
+        box.popup.contentItem.forceLayout();
+        return box.popup.contentItem.itemAtIndex(index);
+    }
+
+    function test_resting_place_data(): var {
+        return [
+            { tag: "a row", index: 5, rests: 5 },
+            { tag: "first section", index: 0, rests: 4 },
+            { tag: "rule", index: 2, rests: 4 },
+            { tag: "last section", index: 6, rests: 4 },
+            { tag: "past the end", index: 7, rests: 4 },
+            { tag: "none", index: -1, rests: -1 },
+        ];
+    }
+
+    function test_resting_place(row: var): void {
+        const box = make();
+        compare(box.currentIndex, 1, "starts at the first row");
+        for (const way of ["function", "property"]) {
+            box.setIndex(4);
+            if (way === "function")
+                box.setIndex(row.index);
+            else
+                box.currentIndex = row.index;
+            compare(box.currentIndex, row.rests, way);
+            compare(box.prevIndex, row.rests);
+        }
+    }
+
+    // The start, where an unknown value leads, is a section here.
+    function test_set_value(): void {
+        const box = make();
+        for (const [value, index] of [["b", 4], ["c", 5], ["unknown", 5], ["Last", 5]]) {
+            box.setValue(value);
+            compare(box.currentIndex, index, value);
+        }
+    }
+
+    function test_keys_data(): var {
+        const [up, down, home, end] = [Qt.Key_Up, Qt.Key_Down, Qt.Key_Home, Qt.Key_End];
+        return [
+            { tag: "down over two", from: 1, key: down, to: 4 },
+            { tag: "up over two", from: 4, key: up, to: 1 },
+            { tag: "down by one", from: 4, key: down, to: 5 },
+            { tag: "down at the end", from: 5, key: down, to: 5 },
+            { tag: "up at the start", from: 1, key: up, to: 1 },
+            { tag: "Home", from: 5, key: home, to: 1 },
+            { tag: "End", from: 1, key: end, to: 5 },
+            { tag: "a letter passes the section of that name", from: 1, key: Qt.Key_A, to: 5 },
+            { tag: "a letter goes round", from: 5, key: Qt.Key_A, to: 1 },
+        ];
+    }
+
+    function test_keys(row: var): void {
+        for (const open of [false, true]) {
+            const box = make();
+            box.setIndex(row.from);
+            box.forceActiveFocus(Qt.TabFocusReason);
+            if (open) {
+                keyClick(Qt.Key_Return);
+                tryVerify(() => box.popup.opened);
+            }
+            if (row.key === Qt.Key_A)
+                keyClick("a");
+            else
+                keyClick(row.key);
+            compare(open ? box.highlightedIndex : box.currentIndex, row.to);
+            if (open) {
+                keyClick(Qt.Key_Return);
+                tryVerify(() => !box.popup.visible);
+            }
+            compare(box.currentIndex, row.to);
+            compare(_activated.count, row.from === row.to && !open ? 0 : 1);
+            box.destroy();
+        }
+    }
+
+    function test_mouse_chooses_rows_only(): void {
+        const box = make();
+        mouseClick(box);
+        tryVerify(() => box.popup.opened);
+        for (const index of [0, 2, 3, 6])
+            mouseClick(rowOf(box, index));
+        compare(box.currentIndex, 1);
+        verify(box.popup.visible);
+        verify(rowOf(box, 2).height < rowOf(box, 3).height, "a rule is lower than a title");
+        mouseClick(rowOf(box, 4));
+        compare(box.currentIndex, 4);
+        tryVerify(() => !box.popup.visible);
+    }
+
+    function test_new_model(): void {
+        const box = make();
+        box.setIndex(5);
+        box.model = [{ section: true, text: "Only" }, { text: "One", value: 1 }];
+        compare(box.currentIndex, 1);
+        box.model = [{ section: true, text: "Nothing here" }];
+        compare(box.currentIndex, -1);
+        box.outline = PbSectionedComboBox.Outline.Warning;
+        compare(box.background.border.color, PebbleStyle.color.warningYellow);
+    }
+}

@@ -1,0 +1,156 @@
+import QtQuick
+import QtTest
+import PebbleUI
+
+TestCase {
+    id: _top
+    name: "Slider"
+    when: windowShown
+    width: 300
+    height: 200
+    visible: true
+
+    QtObject {
+        id: _model
+        property real strength: 40
+    }
+
+    Flickable {
+        id: _panel
+        anchors.fill: parent
+        contentHeight: 2000
+
+        PbSlider {
+            id: _slider
+            x: 20
+            y: 20
+            width: 212
+            value: _model.strength
+        }
+    }
+
+    SignalSpy {
+        id: _finished
+        target: _slider
+        signalName: "editingFinished"
+    }
+
+    SignalSpy {
+        id: _moved
+        target: _slider
+        signalName: "moved"
+    }
+
+    function init(): void {
+        failOnWarning(/.?/);
+        wait(PebbleStyle.time.doublePress + 20);
+        _model.strength = 40.5;
+        _model.strength = 40;
+        _slider.from = 0;
+        _slider.to = 100;
+        _slider.defaultValue = 10;
+        _slider.autoValue = Number.NEGATIVE_INFINITY;
+        _panel.contentY = 0;
+        _finished.clear();
+        _moved.clear();
+    }
+
+    function pressHandle(): void {
+        mousePress(_slider, _slider.handle.x + 6, _slider.height / 2);
+    }
+
+    function releaseHandle(): void {
+        mouseRelease(_slider, _slider.handle.x + 6, _slider.height / 2);
+    }
+
+    function test_default_is_the_first_value(): void {
+        const slider = createTemporaryQmlObject("import PebbleUI; PbSlider { value: 33 }", _top);
+        compare(slider.defaultValue, 33);
+    }
+
+    function test_double_press_data(): var {
+        return [
+            { tag: "within, Autopilot", gap: 60, auto: 70, value: 70 },
+            { tag: "within, no Autopilot", gap: 60, auto: Number.NEGATIVE_INFINITY, value: 10 },
+            { tag: "within, Autopilot out of range", gap: 60, auto: 101, value: 10 },
+            { tag: "beyond", gap: 430, auto: 70, value: 40 },
+        ];
+    }
+
+    function test_double_press(row: var): void {
+        _slider.autoValue = row.auto;
+        pressHandle();
+        releaseHandle();
+        wait(row.gap);
+        pressHandle();
+        compare(_slider.value, row.value);
+        // A second press within the time is consumed: moving on does not drag the handle.
+        if (row.value !== 40) {
+            mouseMove(_slider, 150, 8, 10, Qt.LeftButton);
+            compare(_slider.value, row.value);
+        }
+        releaseHandle();
+        verify(_finished.count >= 2);
+        _model.strength = 55;
+        compare(_slider.value, 55, "the binding still holds");
+    }
+
+    function test_first_press_drags_at_once(): void {
+        pressHandle();
+        mouseMove(_slider, 156, 8, -1, Qt.LeftButton);
+        compare(_slider.value, 75);
+        compare(_finished.count, 0);
+        mouseRelease(_slider, 156, 8);
+        compare(_finished.count, 1);
+        verify(_moved.count >= 1);
+    }
+
+    function test_keys_data(): var {
+        return [
+            { tag: "Right", key: Qt.Key_Right, value: 41 },
+            { tag: "Left", key: Qt.Key_Left, value: 39 },
+            { tag: "Delete", key: Qt.Key_Delete, value: 10 },
+            { tag: "Backspace", key: Qt.Key_Backspace, value: 10 },
+        ];
+    }
+
+    function test_keys(row: var): void {
+        _slider.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(row.key);
+        compare(_slider.value, row.value);
+        compare(_finished.count, 1);
+    }
+
+    // Scrolling through a panel must not change what lies under the pointer.
+    function test_wheel_scrolls_the_panel(): void {
+        mouseWheel(_slider, 100, 8, 0, -240);
+        tryVerify(() => _panel.contentY > 0);
+        compare(_slider.value, 40);
+    }
+
+    function test_mark_data(): var {
+        return [
+            { tag: "at a quarter", from: 0, to: 100, auto: 25, x: 55.5, shown: true },
+            { tag: "at the start", from: -25, to: 75, auto: -25, x: 5.5, shown: true },
+            { tag: "at the end", from: 1, to: 100, auto: 100, x: 205.5, shown: true },
+            { tag: "below the range", from: 1, to: 100, auto: -1, x: NaN, shown: false },
+            { tag: "inside a range that goes below zero", from: -25, to: 75, auto: -1, x: 53.5, shown: true },
+        ];
+    }
+
+    function test_mark(row: var): void {
+        _slider.from = row.from;
+        _slider.to = row.to;
+        _slider.autoValue = row.auto;
+        const mark = findChild(_slider, "autoMark");
+        compare(mark.visible, row.shown);
+        if (!row.shown)
+            return;
+        fuzzyCompare(mark.x, row.x, 0.001);
+        compare(mark.height, 8);
+        compare(mark.width, 1);
+        tryCompare(mark, "opacity", 1);
+        _model.strength = row.auto;
+        tryCompare(mark, "opacity", 0);
+    }
+}

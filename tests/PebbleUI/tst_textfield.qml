@@ -1,0 +1,156 @@
+import QtQuick
+import QtTest
+import PebbleUI
+
+TestCase {
+    id: _top
+    name: "TextField"
+    when: windowShown
+    width: 400
+    height: 200
+    visible: true
+
+    Component {
+        id: _maker
+        PbTextField {}
+    }
+
+    Component {
+        id: _labeledMaker
+        PbLabeledTextField {
+            labelText: "W"
+            units: "px"
+            valueType: PbTextField.Type.Integer
+            value: "1200"
+        }
+    }
+
+    SignalSpy {
+        id: _accepted
+        signalName: "accepted"
+    }
+
+    function init(): void {
+        failOnWarning(/.?/);
+    }
+
+    function make(properties: var): PbTextField {
+        const field = createTemporaryObject(_maker, _top, properties);
+        _accepted.target = field;
+        _accepted.clear();
+        return field;
+    }
+
+    function test_leaving_data(): var {
+        const [integer, text] = [PbTextField.Type.Integer, PbTextField.Type.Text];
+        return [
+            { tag: "Return", type: integer, typed: "7", key: Qt.Key_Return, leaves: true, after: "7", accepts: 1 },
+            { tag: "Enter", type: integer, typed: "7", key: Qt.Key_Enter, leaves: true, after: "7", accepts: 1 },
+            { tag: "Escape keeps a good text", type: integer, typed: "7", key: Qt.Key_Escape, leaves: true, after: "7", accepts: 0 },
+            { tag: "Return stays with an error", type: integer, typed: "-", key: Qt.Key_Return, leaves: false, after: "-", accepts: 0 },
+            { tag: "Enter restores a bad number", type: integer, typed: "-", key: Qt.Key_Enter, leaves: true, after: "40", accepts: 0 },
+            { tag: "Escape restores a bad number", type: integer, typed: "-", key: Qt.Key_Escape, leaves: true, after: "40", accepts: 0 },
+            { tag: "Tab restores a bad number", type: integer, typed: "-", key: Qt.Key_Tab, leaves: true, after: "40", accepts: 0 },
+            { tag: "refused by the check", type: integer, typed: "13", key: Qt.Key_Return, leaves: false, after: "13", accepts: 0 },
+            { tag: "a bad number may stay", type: integer, typed: "-", key: Qt.Key_Escape, leaves: true, after: "-", accepts: 0, keep: true },
+            { tag: "text is never restored", type: text, typed: "13", key: Qt.Key_Escape, leaves: true, after: "4013", accepts: 0 },
+        ];
+    }
+
+    function test_leaving(row: var): void {
+        const field = make({ type: row.type, text: "40", validateInput: t => !t.includes("13") });
+        if (row.keep)
+            field.resetOnError = false;
+        make({ y: 60 }); // somewhere for Tab to go
+        _accepted.target = field;
+        field.forceActiveFocus(Qt.TabFocusReason);
+        for (const letter of row.typed)
+            keyClick(letter);
+        keyClick(row.key);
+        compare(field.activeFocus, !row.leaves);
+        compare(field.text, row.after);
+        compare(_accepted.count, row.accepts);
+    }
+
+    function test_stepping_data(): var {
+        return [
+            { tag: "integer", type: PbTextField.Type.Integer, decimals: 0, text: "9", up: "10" },
+            { tag: "tenths without drift", type: PbTextField.Type.Real, decimals: 1, text: "0.2", up: "0.3" },
+            { tag: "thousandths", type: PbTextField.Type.Real, decimals: 3, text: "1.999", up: "2.000" },
+            { tag: "below zero", type: PbTextField.Type.Integer, decimals: 0, text: "-1", up: "0" },
+        ];
+    }
+
+    function test_stepping(row: var): void {
+        const field = make({ type: row.type, decimals: row.decimals, text: row.text });
+        field.forceActiveFocus();
+        keyClick(Qt.Key_Up);
+        compare(field.text, row.up);
+        keyClick(Qt.Key_Down);
+        compare(field.text, row.text);
+    }
+
+    function test_stepping_from_no_number_says_so(): void {
+        const field = make({ type: PbTextField.Type.Integer, text: "" });
+        field.forceActiveFocus();
+        ignoreWarning("Inc/Dec was requested, but current value is NaN");
+        keyClick(Qt.Key_Up);
+        compare(field.text, "");
+    }
+
+    function test_stepping_can_be_replaced(): void {
+        const field = make({ type: PbTextField.Type.Integer, text: "8" });
+        field.increment = () => { field.text = "16"; };
+        field.forceActiveFocus();
+        keyClick(Qt.Key_Up);
+        compare(field.text, "16");
+    }
+
+    function test_selection_on_focus_data(): var {
+        return [
+            { tag: "number by Tab", type: PbTextField.Type.Integer, mouse: false, selected: "40" },
+            { tag: "number by click", type: PbTextField.Type.Integer, mouse: true, selected: "40" },
+            { tag: "text by click", type: PbTextField.Type.Text, mouse: true, selected: "" },
+        ];
+    }
+
+    function test_selection_on_focus(row: var): void {
+        const field = make({ type: row.type, text: "40" });
+        if (row.mouse)
+            mouseClick(field);
+        else
+            field.forceActiveFocus(Qt.TabFocusReason);
+        verify(field.activeFocus);
+        compare(field.selectedText, row.selected);
+    }
+
+    function test_comma_replaces_what_is_selected(): void {
+        const field = make({ type: PbTextField.Type.Real, text: "12" });
+        field.forceActiveFocus();
+        field.select(1, 2);
+        for (const key of [",", "5"])
+            keyClick(key);
+        compare(field.text, "1.5");
+    }
+
+    function test_wheel_changes_nothing(): void {
+        const field = make({ type: PbTextField.Type.Integer, text: "40" });
+        field.forceActiveFocus();
+        mouseWheel(field, 10, 10, 0, 120);
+        compare(field.text, "40");
+    }
+
+    function test_labeled_field(): void {
+        const field = createTemporaryObject(_labeledMaker, _top);
+        mouseClick(field, 10, field.height / 2);
+        verify(field.inputFocus, "a click on the label goes to the field");
+        compare(field.border.color, PebbleStyle.color.primeBlue);
+        keyClick("-");
+        compare(field.border.color, PebbleStyle.color.primeRed);
+        keyClick(Qt.Key_Escape);
+        compare(field.value, "1200");
+        field.enabled = false;
+        compare(field.opacity, 0.6);
+        compare(field.field.Accessible.name, "W");
+    }
+}

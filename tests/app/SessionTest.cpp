@@ -1,0 +1,69 @@
+#include "app/AppState.h"
+#include "app/SessionList.h"
+#include "contracts/AppContext.h"
+
+#include <QDir>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(Session, ListComesBackAsItWasSaved) {
+    const QTemporaryDir logs;
+    EXPECT_TRUE(readSessionList(logs.path()).isEmpty()) << "no list yet";
+
+    AppState state(logs.path(), sessionListName());
+    const QStringList files = {QStringLiteral("/a b/\u00fcber.jpg"), QStringLiteral("/c.nef")};
+    state.setProperty("openFiles", files);
+    state.saveFileList();
+    EXPECT_EQ(readSessionList(logs.path()), files);
+
+    state.setProperty("openFiles", QStringList());
+    state.saveFileList();
+    EXPECT_TRUE(readSessionList(logs.path()).isEmpty()) << "an empty list replaces the last";
+}
+
+TEST(Session, ForeignLists) {
+    const QTemporaryDir logs;
+    QFile file(QDir(logs.path()).filePath(sessionListName()));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("  /a.jpg \r\n\n/b.jpg");
+    file.close();
+    EXPECT_EQ(readSessionList(logs.path()),
+              QStringList({QStringLiteral("/a.jpg"), QString(), QStringLiteral("/b.jpg")}));
+    ASSERT_TRUE(file.resize(qint64(20) << 20));
+    EXPECT_TRUE(readSessionList(logs.path()).isEmpty()) << "a list no session makes";
+}
+
+TEST(Session, ExportingTellsOnlyOfChanges) {
+    AppState state{QString(), QString()};
+    const QSignalSpy spy(&state, &AppState::isExportingChanged);
+    state.setIsExporting(true);
+    state.setIsExporting(true);
+    state.setIsExporting(false);
+    EXPECT_EQ(spy.count(), 2);
+}
+
+TEST(AppContext, FoldersAndTheSettingReadOnce) {
+    const QTemporaryDir root;
+    QSettings settings;
+    settings.setValue(QStringLiteral("developerMode"), true);
+    settings.sync();
+    const AppContext context(QStringLiteral("/m"), root.filePath(QStringLiteral("Logs")));
+    settings.remove(QStringLiteral("developerMode"));
+    EXPECT_TRUE(context.isDev());
+    EXPECT_EQ(context.appName(), QStringLiteral("app"));
+    EXPECT_EQ(context.presetsDirectory(), root.filePath(QStringLiteral("Presets")));
+    EXPECT_TRUE(QDir(context.presetsDirectory()).exists());
+
+    const AppContext again(QStringLiteral("/m"), root.filePath(QStringLiteral("Logs")));
+    EXPECT_FALSE(again.isDev());
+    EXPECT_EQ(again.presetsDirectory(), context.presetsDirectory());
+    const AppContext lost(QString(), root.filePath(QStringLiteral("no/where/Logs")));
+    EXPECT_EQ(lost.presetsDirectory(), root.filePath(QStringLiteral("no/where/Presets")));
+}
+
+} // namespace

@@ -1,0 +1,16 @@
+#include <QCoreApplication>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char **argv) {
+    testing::InitGoogleTest(&argc, argv);
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    QCoreApplication::setOrganizationName(QStringLiteral("Orvane Works tests"));
+    QCoreApplication::setApplicationName(QStringLiteral("app"));
+    QCoreApplication app(argc, argv);
+    return RUN_ALL_TESTS();
+}

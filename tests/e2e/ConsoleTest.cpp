@@ -1,0 +1,144 @@
+#include "ConsoleRun.h"
+
+#include <QDir>
+#include <QImage>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Console : public ConsoleRun {};
+
+bool holds(const std::string &text, const QString &part) {
+    return text.find(part.toStdString()) != std::string::npos;
+}
+
+// A PNG that claims a size and has no pixels.
+QByteArray hugePng(quint32 width, quint32 height) {
+    const auto big = [](quint32 n) {
+        return QByteArray{}.append(char(n >> 24)).append(char(n >> 16)).append(char(n >> 8)).append(char(n));
+    };
+    const auto crc = [](const QByteArray &bytes) {
+        quint32 c = ~0U;
+        for (const char byte : bytes) {
+            c ^= uchar(byte);
+            for (int bit = 0; bit < 8; ++bit)
+                c = c & 1 ? 0xEDB88320U ^ (c >> 1) : c >> 1;
+        }
+        return ~c;
+    };
+    const QByteArray header = "IHDR" + big(width) + big(height) + QByteArray("\x08\x02\x00\x00\x00", 5);
+    const QByteArray end = "IEND";
+    return "\x89PNG\r\n\x1a\n" + big(13) + header + big(crc(header)) + big(0) + end + big(crc(end));
+}
+
+} // namespace
+
+TEST_F(Console, EndsBeforeAnyWork) {
+    const QString good = picture(u"good.png"_s);
+    QDir().mkpath(at(u"none"_s));
+    struct {
+        const char *what;
+        QStringList arguments;
+        int code;
+        QString error;
+    } const rows[] = {
+        {"nothing", {}, 255, u"No valid image files passed\n"_s},
+        {"folder without pictures",
+         {at(u"none"_s), u"--keep-going"_s},
+         255,
+         u"No valid image files passed\n"_s},
+        {"unknown option", {good, u"--nothing"_s}, 253, u"Unknown argument: --nothing\n"_s},
+        {"no value", {good, u"--output"_s}, 253, u"Missing value after argument: --output\n"_s},
+    };
+    for (const auto &row : rows) {
+        const Answer answer = run(row.arguments);
+        EXPECT_EQ(answer.code, row.code) << row.what;
+        EXPECT_TRUE(holds(answer.err, row.error)) << row.what << ": " << answer.err;
+        EXPECT_EQ(answer.out, "") << row.what;
+    }
+    EXPECT_EQ(filesIn(u"."_s), QStringList{u"good.png"_s});
+}
+
+TEST_F(Console, BadInputIsToldAndStopsNobody) {
+    const QByteArray photo = [this] {
+        picture(u"whole.jpg"_s, 400, 300);
+        return contentOf(u"whole.jpg"_s);
+    }();
+    const struct {
+        const char *what;
+        QString path;
+    } bad[] = {
+        {"empty", file(u"empty.jpg"_s, {})},
+        {"text", file(u"text.png"_s, "no picture at all")},
+        {"header only", file(u"header.jpg"_s, photo.left(160))},
+        {"claims 30,000 x 30,000", file(u"claims.png"_s, hugePng(30000, 30000))},
+        {"claims 4 billion", file(u"claims more.png"_s, hugePng(0x7fffffff, 0x7fffffff))},
+        {"raw without content", file(u"raw.nef"_s, QByteArray(4096, 'x'))},
+    };
+    QStringList paths;
+    for (const auto &row : bad) {
+        const Answer answer = run({row.path, u"-o"_s, at(u"out"_s)});
+        EXPECT_EQ(answer.code, 0) << row.what << ": a plain run always ends with 0";
+        EXPECT_TRUE(holds(answer.out, u"Skipping image due to error: "_s + row.path + u'\n')) << row.what;
+        paths.append(row.path);
+    }
+    EXPECT_EQ(filesIn(u"out"_s), QStringList());
+
+    const Answer answer =
+        run(QStringList{u"--keep-going"_s, u"-o"_s, at(u"out"_s)} + paths + QStringList{at(u"whole.jpg"_s)});
+    EXPECT_EQ(answer.code, 1);
+    EXPECT_EQ(filesIn(u"out"_s), QStringList{u"whole.jpg"_s});
+    EXPECT_TRUE(holds(answer.err, u"6 of 7 files failed:\n"_s)) << answer.err;
+    for (const auto &row : bad)
+        EXPECT_TRUE(holds(answer.err, u"\n    "_s + row.path + u": "_s)) << row.what;
+}
+
+TEST_F(Console, OddButGoodInput) {
+    picture(u"one.png"_s, 1, 1);
+    picture(u"wide.png"_s, 300, 1);
+    picture(u"really a png.png"_s);
+    QFile::rename(at(u"really a png.png"_s), at(u"mislabelled.jpg"_s));
+    picture(u"quote\" new\nline ü 写.png"_s);
+    picture(u"-dash.png"_s);
+    const QStringList names = filesIn(u"."_s);
+    const Answer answer = run({u"."_s, u"--output"_s, u"--odd \"out\" ü"_s, u"--keep-going"_s, u"--noise"_s});
+    EXPECT_EQ(answer.code, 0) << answer.err;
+    EXPECT_EQ(answer.err, "");
+    EXPECT_EQ(filesIn(u"--odd \"out\" ü"_s), names);
+    for (const QString &name : names)
+        EXPECT_EQ(QImage(at(u"--odd \"out\" ü/"_s + name)).size().isEmpty(), false) << name.toStdString();
+}
+
+TEST_F(Console, FoldersAreRecreatedAndOriginalsKept) {
+    picture(u"in/a.png"_s);
+    picture(u"in/deep/er/b.jpg"_s);
+    picture(u"in/deep/a.png"_s);
+    const QByteArray before = contentOf(u"in/deep/er/b.jpg"_s);
+    EXPECT_EQ(run({at(u"in"_s), u"-r"_s, u"-o"_s, at(u"out"_s), u"--keep-going"_s}).code, 0);
+    EXPECT_EQ(filesIn(u"out"_s), (QStringList{u"a.png"_s, u"deep/a.png"_s, u"deep/er/b.jpg"_s}));
+    EXPECT_EQ(run({u"-r"_s, at(u"in"_s), u"--format"_s, u"jpg"_s, u"--keep-going"_s}).code, 0);
+    EXPECT_EQ(filesIn(u"in"_s), (QStringList{u"a.jpeg"_s, u"a.png"_s, u"deep/a.jpeg"_s, u"deep/a.png"_s,
+                                             u"deep/er/b-1.jpg"_s, u"deep/er/b.jpg"_s}));
+    EXPECT_EQ(contentOf(u"in/deep/er/b.jpg"_s), before);
+}
+
+TEST_F(Console, AResultThatCannotBeWritten) {
+    picture(u"a.png"_s);
+    picture(u"b.png"_s);
+    QDir().mkpath(at(u"out/a.png"_s));
+    const Answer answer = run({at(u"a.png"_s), at(u"b.png"_s), u"-o"_s, at(u"out"_s), u"--overwrite"_s});
+    EXPECT_EQ(answer.code, 0);
+    EXPECT_TRUE(holds(answer.err, u"Could not save file '"_s + at(u"out/a.png"_s) + u"' Error: "_s))
+        << answer.err;
+    EXPECT_EQ(filesIn(u"out"_s), QStringList{u"b.png"_s});
+}
+
+TEST_F(Console, AnEnlargedResult) {
+    const Answer answer = run({picture(u"a.png"_s, 40, 30), u"--upscale"_s, u"scale=2"_s, u"-o"_s,
+                               at(u"out"_s), u"--showSettings"_s});
+    EXPECT_EQ(answer.code, 0) << answer.err;
+    EXPECT_EQ(QImage(at(u"out/a.png"_s)).size(), QSize(80, 60));
+    EXPECT_TRUE(holds(answer.out, u"Overwriting Enhance scale to 2\n"_s));
+    EXPECT_TRUE(holds(answer.out, u"Final Settings for "_s + at(u"a.png"_s) + u":\n{\n"_s));
+}

@@ -1,0 +1,139 @@
+#include "Harness.h"
+#include "engine/filters/StrengthScale.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void write(const QString &path, const QByteArray &contents) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(contents);
+}
+
+QByteArray definition(const QByteArray &model, const QByteArray &parameters = "{}") {
+    return R"({"category": "Denoise", "model": ")" + model +
+           R"(", "kind": "classical", "operation": "denoise", "parameters": )" + parameters + "}";
+}
+
+} // namespace
+
+/// Every name that the program's controls write is there, with the value it starts from.
+TEST(Catalogue, ShippedModels) {
+    struct Row {
+        const char *category, *model, *parameter;
+        double initial, least, most;
+    };
+    const Row rows[] = {
+        {"Denoise", "Low Light Beta", "param1_normalv2", 0, 0.01, 1},
+        {"Denoise", "Low Light Beta", "param2_normalv2", 0, 0.01, 1},
+        {"Denoise", "Low Light Beta", "recover_detail", 0, 0, 1},
+        {"Denoise", "Severe Noise Beta", "param1_strongv2", 0, 0.01, 1},
+        {"Denoise", "Severe Noise", "param1", 0.01, 0.01, 1},
+        {"RAW", "RAW Native", "param1_native", 0.01, 0.01, 1},
+        {"RAW", "RAW Native", "param3_native", 0, 0, 1},
+        {"RAW", "RAW Standard", "param3_standard", 0.01, 0, 1},
+        {"RAW", "Linear RAW", "param2_native", 0.01, 0.01, 1},
+        {"Sharpen", "Sharpen Standard v2", "param2", 0.01, 0.01, 1},
+        {"Sharpen", "Sharpen Strong", "param1", 0.01, 0.01, 1},
+        {"Sharpen", "Sharpen Standard", "param2", 0.01, 0.01, 1},
+        {"Enhance", "Standard V2", "param3", 0.01, 0.01, 1},
+        {"Enhance", "High Fidelity V2", "param3", 0.01, 0.01, 1},
+        {"Enhance", "CGI", "param2", 0.01, 0.01, 1},
+        {"Enhance", "Low Resolution", "param1", 0.01, 0.01, 1},
+        {"Enhance", "Standard", "param3", 0.01, 0.01, 1},
+        {"Enhance", "High Fidelity", "param3", 0.01, 0.01, 1},
+        {"Exposure Adjust", "Exposure Standard", "param1", 0.5, -0.25, 0.75},
+        {"White Balance Adjust", "White Balance Standard", "temperature", 0.5, 0.01, 1},
+        {"White Balance Adjust", "White Balance Standard", "strength", 1, 0.01, 1},
+    };
+    Engine engine;
+    for (const Row &row : rows) {
+        const QVariantMap entry = engine.catalogue[QLatin1String(row.category)]
+                                      .toMap()[QLatin1String(row.model)]
+                                      .toMap()[u"gui"_s]
+                                      .toMap()[u"parameters"_s]
+                                      .toMap()[QLatin1String(row.parameter)]
+                                      .toMap();
+        const QVariantMap expected{{u"default"_s, row.initial}, {u"min"_s, row.least}, {u"max"_s, row.most}};
+        EXPECT_EQ(entry, expected) << row.category << '/' << row.model << '/' << row.parameter;
+    }
+    for (const char *missing : {"Face Recovery", "Text Recovery", "Inpaint"})
+        EXPECT_FALSE(engine.catalogue.contains(QLatin1String(missing))) << "what does nothing is not offered";
+}
+
+TEST(Catalogue, FilesAgreeWithTheStrengthScale) {
+    struct Row {
+        const char *file, *constant;
+        double maximum;
+    };
+    const Row rows[] = {
+        {"denoise/low-light-beta", "sigmaMax", StrengthScale::denoiseNormal.maximum * 255},
+        {"denoise/severe-noise-beta", "sigmaMax", StrengthScale::denoiseStrong.maximum * 255},
+        {"denoise/severe-noise", "sigmaMax", StrengthScale::denoiseExtreme.maximum * 255},
+        {"raw/raw-native", "sigmaMax", StrengthScale::rawNative.maximum * 255},
+        {"raw/linear-raw", "sigmaMax", StrengthScale::rawNative.maximum * 255},
+        {"raw/raw-standard", "sigmaMax", StrengthScale::rawStandard.maximum * 255},
+        {"sharpen/sharpen-standard-v2", "extentMax", StrengthScale::sharpenStandard.maximum},
+        {"sharpen/sharpen-strong", "extentMax", StrengthScale::sharpenStrong.maximum},
+        {"sharpen/sharpen-standard", "extentMax", StrengthScale::sharpenMotion.maximum},
+        {"sharpen/sharpen-standard", "lensExtentMax", StrengthScale::sharpenLens.maximum},
+    };
+    for (const Row &row : rows) {
+        QFile file(QStringLiteral(ORVANE_MODELS "/%1.json").arg(QLatin1String(row.file)));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << row.file;
+        const QJsonObject constants =
+            QJsonDocument::fromJson(file.readAll()).object()[u"constants"].toObject();
+        EXPECT_NEAR(constants[QLatin1String(row.constant)].toDouble(), row.maximum, 1e-9) << row.file;
+    }
+    EXPECT_NEAR(StrengthScale::denoiseStrong.strength(StrengthScale::denoiseStrong.measure(0.3)), 0.3, 1e-12);
+}
+
+/// A damaged file costs its own model and one line that names it, nothing more.
+TEST(Catalogue, DamagedFilesAreSkipped) {
+    struct Row {
+        const char *name;
+        QByteArray contents;
+    };
+    const Row rows[] = {
+        {"empty", ""},
+        {"cut-off", definition("A").left(60)},
+        {"list", "[1, 2]"},
+        {"binary", QByteArray(3000, '\0')},
+        {"deep", "{\"category\":" + QByteArray(5000, '[') + QByteArray(5000, ']') + "}"},
+        {"huge", definition("A") + QByteArray(300 * 1024, ' ')},
+        {"nameless", definition("")},
+        {"long-name", definition(QByteArray(1000, 'x'))},
+        {"range", definition("A", R"({"p": {"min": 2, "max": 1}})")},
+        {"infinite", definition("A", R"({"p": {"min": 0, "max": 1e999}})")},
+        {"parameter", definition("A", R"({"p": 5})")},
+        {"kind", definition("A").replace("classical", "magic")},
+        {"operation", definition("A").replace("\"denoise\"", "\"polish\"")},
+        {"second-good", definition("Good")},
+    };
+    QTemporaryDir dir;
+    write(dir.filePath(u"denoise/a-good.json"_s),
+          definition("Good", R"({"p": {"default": 0.5, "role": "strength"}})"));
+    for (const Row &row : rows)
+        write(dir.filePath(u"denoise/%1.json"_s.arg(QLatin1String(row.name))), row.contents);
+    write(dir.filePath(u"stray.json"_s), "not in a category's folder");
+
+    const auto engine = makeEngineBackend();
+    const LogCapture log;
+    const QVariantMap catalogue = engine->catalogue(dir.path());
+    EXPECT_EQ(catalogue.keys(), QStringList{u"Denoise"_s});
+    EXPECT_EQ(catalogue[u"Denoise"_s].toMap().keys(), QStringList{u"Good"_s});
+    for (const Row &row : rows)
+        EXPECT_EQ(log.count(u"/%1.json"_s.arg(QLatin1String(row.name))), 1) << row.name;
+    EXPECT_EQ(log.lines().size(), qsizetype(std::size(rows)));
+    EXPECT_TRUE(engine->catalogue(dir.filePath(u"nowhere"_s)).isEmpty());
+}

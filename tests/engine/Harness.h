@@ -1,0 +1,73 @@
+#pragma once
+
+#include "engine/EngineBackend.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// Pictures made by rule, the same on every machine, and an engine with the shipped models.
+namespace Pictures {
+
+using Pixel = std::array<double, 4>; ///< R G B A, 0 to 1
+std::shared_ptr<ImageData> make(int width, int height, int channels, SampleType type,
+                                const std::function<Pixel(int, int)> &pixel);
+
+/// Photo-like: soft shading, edges at all angles, fine texture, some colour; alpha a soft disk.
+std::shared_ptr<ImageData> scene(int width, int height, int channels = 3,
+                                 SampleType type = SampleType::UInt8);
+
+/// Each sample changed by `change(value, x, y, channel)`, values 0 to 1; alpha is left alone.
+std::shared_ptr<ImageData> changed(const ImageData &image,
+                                   const std::function<double(double, int, int, int)> &change);
+/// White Gaussian noise, standard deviation on the 8-bit scale.
+std::shared_ptr<ImageData> noisy(const ImageData &image, double deviation);
+/// Gaussian blur, standard deviation in pixels.
+std::shared_ptr<ImageData> blurred(const ImageData &image, double sigma);
+/// Blocks of 8 x 8 whose cosine coefficients are rounded to a coarse grid, as strong compression does.
+std::shared_ptr<ImageData> compressed(const ImageData &image, double step);
+
+double sample(const ImageData &image, int x, int y, int channel);
+/// Peak signal-to-noise ratio of R, G and B in decibels.
+double psnr(const ImageData &a, const ImageData &b);
+/// Root mean square difference of R, G and B on the 8-bit scale.
+double difference(const ImageData &a, const ImageData &b);
+/// Empty when `part` equals the part of `whole` that begins at x, y bit for bit; else where not.
+std::string mismatch(const ImageData &part, const ImageData &whole, int x, int y);
+
+} // namespace Pictures
+
+struct Engine {
+    explicit Engine(const EngineOptions &options = {});
+
+    /// One filter over the whole picture, or over `region`.
+    ProcResult run(const ImageRef &image, const QString &category, const QString &model,
+                   const QVariantMap &params, const QRect &region = {}, const RunControl &control = {});
+    ProcResult run(ProcRequest request, const RunControl &control = {});
+    /// A request over the whole picture that exports; each picture gets a uid of its own.
+    static ProcRequest request(const ImageRef &image);
+    static void add(ProcRequest &request, const QString &name, const QString &category, const QString &model,
+                    const QVariantMap &params);
+
+    std::unique_ptr<ProcessingBackend> backend;
+    QVariantMap catalogue;
+};
+
+/// A model of the shipped catalogue with every parameter in the middle of its range, scaled up
+/// where it can be.
+struct ModelCase {
+    QString category;
+    QString model;
+    QVariantMap params;
+    std::string label() const { return (category + u'/' + model).toStdString(); }
+};
+std::vector<ModelCase> everyModel(const QVariantMap &catalogue);
+
+/// The lines logged between construction and lines().
+class LogCapture {
+public:
+    LogCapture();
+    ~LogCapture();
+    QStringList lines() const;
+    int count(const QString &part) const { return int(lines().filter(part).size()); }
+};

@@ -1,0 +1,94 @@
+#include "Harness.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using Pictures::mismatch;
+
+namespace {
+
+struct Format {
+    const char *name;
+    int channels;
+    SampleType type;
+};
+constexpr Format formats[] = {{"rgb 8", 3, SampleType::UInt8}, {"rgba 16", 4, SampleType::UInt16}};
+
+EngineOptions cut(int threads, int tileSide) {
+    return {threads, tileSide, std::size_t(64) << 20};
+}
+
+} // namespace
+
+/// Whatever the tiles, the threads and the region: the same picture.
+TEST(SameEverywhere, EveryModel) {
+    Engine one(cut(1, 4096));
+    Engine many(cut(3, 61));
+    for (const Format &format : formats) {
+        const auto image = Pictures::noisy(*Pictures::scene(173, 131, format.channels, format.type), 6);
+        for (const ModelCase &model : everyModel(one.catalogue)) {
+            SCOPED_TRACE(std::string(format.name) + ", " + model.label());
+            const ProcResult whole = one.run(image, model.category, model.model, model.params);
+            ASSERT_TRUE(whole.image) << whole.error.toStdString();
+            EXPECT_GT(whole.image->width() * whole.scale, 0);
+            const ProcResult tiled = many.run(image, model.category, model.model, model.params);
+            EXPECT_EQ(mismatch(*tiled.image, *whole.image, 0, 0), "");
+            for (const QRect &region :
+                 {QRect(0, 0, 40, 131), QRect(67, 33, 50, 41), QRect(150, 120, 23, 11)}) {
+                const ProcResult part = many.run(image, model.category, model.model, model.params, region);
+                ASSERT_TRUE(part.image);
+                EXPECT_EQ(part.region, region);
+                const int x = int(double(region.x()) * whole.image->width() / image->width() + 0.5);
+                const int y = int(double(region.y()) * whole.image->height() / image->height() + 0.5);
+                EXPECT_EQ(mismatch(*part.image, *whole.image, x, y), "") << "region at " << region.x();
+            }
+        }
+    }
+}
+
+/// Filters behind a change of size, small pictures, and reductions.
+TEST(SameEverywhere, Stacks) {
+    struct Row {
+        const char *name;
+        int width, height;
+        double scale;
+    };
+    for (const Row &row : {Row{"enlarged", 90, 70, 2.3}, Row{"reduced", 190, 170, 0.37},
+                           Row{"smaller than a halo", 9, 5, 3}, Row{"one pixel", 1, 1, 1}}) {
+        SCOPED_TRACE(row.name);
+        const auto image = Pictures::noisy(*Pictures::scene(row.width, row.height, 4), 10);
+        ProcRequest request = Engine::request(image);
+        Engine::add(request, u"Denoise"_s, u"Denoise"_s, u"Severe Noise"_s,
+                    {{u"param1"_s, 0.3}, {u"param2"_s, 0.5}});
+        Engine::add(request, u"Enhance"_s, u"Enhance"_s, u"Standard V2"_s,
+                    {{u"scale"_s, row.scale}, {u"param2"_s, 0.4}});
+        Engine::add(request, u"Sharpen2"_s, u"Sharpen"_s, u"Sharpen Strong"_s, {{u"param2"_s, 0.5}});
+        const ProcResult whole = Engine(cut(1, 4096)).run(request);
+        ASSERT_TRUE(whole.image) << whole.error.toStdString();
+        EXPECT_EQ(mismatch(*Engine(cut(4, 33)).run(request).image, *whole.image, 0, 0), "");
+        request.region =
+            QRect(row.width / 3, row.height / 4, std::max(1, row.width / 2), std::max(1, row.height / 2));
+        request.full = false;
+        const ProcResult part = Engine(cut(2, 0)).run(request);
+        const int x = int(double(request.region.x()) * whole.image->width() / row.width + 0.5);
+        const int y = int(double(request.region.y()) * whole.image->height() / row.height + 0.5);
+        EXPECT_EQ(mismatch(*part.image, *whole.image, x, y), "");
+    }
+}
+
+/// An 8-bit picture gives what the same picture in 16 bit gives, rounded.
+TEST(SameEverywhere, DepthsAgree) {
+    Engine engine;
+    const auto shallow = Pictures::noisy(*Pictures::scene(96, 80), 4);
+    const auto deep = Pictures::make(96, 80, 3, SampleType::UInt16, [&](int x, int y) {
+        return Pictures::Pixel{Pictures::sample(*shallow, x, y, 0), Pictures::sample(*shallow, x, y, 1),
+                               Pictures::sample(*shallow, x, y, 2), 1};
+    });
+    for (const ModelCase &model : everyModel(engine.catalogue)) {
+        const ProcResult a = engine.run(shallow, model.category, model.model, model.params);
+        const ProcResult b = engine.run(deep, model.category, model.model, model.params);
+        EXPECT_EQ(a.image->type(), SampleType::UInt8);
+        EXPECT_EQ(b.image->type(), SampleType::UInt16);
+        EXPECT_LE(Pictures::difference(*a.image, *b.image), 0.5) << model.label();
+    }
+}

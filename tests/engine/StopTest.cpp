@@ -1,0 +1,64 @@
+#include "Harness.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using Clock = std::chrono::steady_clock;
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr auto Patience = std::chrono::milliseconds(400); // instrumented code runs several times slower
+#else
+constexpr auto Patience = std::chrono::milliseconds(50);
+#endif
+
+} // namespace
+
+/// A stop is answered at once, in the middle of a heavy tile, too.
+TEST(Stop, AnsweredAtOnceByEveryModel) {
+    Engine engine;
+    const auto image = Pictures::scene(1200, 900);
+    for (ModelCase model : everyModel(engine.catalogue)) {
+        if (model.category == u"Enhance"_s)
+            model.params[u"scale"_s] = 4;
+        ProcRequest request = Engine::request(image);
+        Engine::add(request, model.category, model.category, model.model, model.params);
+        request.full = false;
+        request.region = QRect(0, 0, 10, 10);
+        engine.run(request); // measures the picture
+        request.region = QRect(0, 0, 1200, 900);
+
+        std::stop_source source;
+        RunControl control;
+        control.stop = source.get_token();
+        ProcResult result;
+        Clock::time_point ended;
+        std::jthread runner([&] {
+            result = engine.run(request, control);
+            ended = Clock::now();
+        });
+        std::this_thread::sleep_for(std::chrono::milliseconds(12));
+        const auto asked = Clock::now();
+        source.request_stop();
+        runner.join();
+        if (result.image)
+            continue; // was done before it could be stopped
+        EXPECT_TRUE(result.cancelled) << model.label();
+        EXPECT_LT(ended - asked, Patience) << model.label();
+    }
+}
+
+TEST(Stop, BeforeItBegins) {
+    std::stop_source source;
+    source.request_stop();
+    RunControl control;
+    control.stop = source.get_token();
+    Engine engine;
+    ProcRequest request = Engine::request(Pictures::scene(50, 50));
+    EXPECT_TRUE(engine.run(request, control).cancelled);
+    EXPECT_TRUE(engine.backend->analyse(request.input, {}, control).cancelled);
+}

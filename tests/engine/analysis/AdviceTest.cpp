@@ -1,0 +1,236 @@
+#include "engine/analysis/Advice.h"
+#include "engine/analysis/Analyse.h"
+#include "engine/filters/StrengthScale.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+/// A 20-megapixel picture with this noise (8-bit scale) and blur.
+ImageStatistics measured(double noise, double blur) {
+    ImageStatistics s;
+    s.width = 5000;
+    s.height = 4000;
+    s.noise.fill(float(noise / 255));
+    s.lumaNoise = float(0.669 * noise / 255);
+    s.blur = float(blur);
+    s.edgeShare = 0.05f;
+    s.lumaLow = 0.03f;
+    s.lumaMedian = 0.45f;
+    s.lumaHigh = 0.95f;
+    return s;
+}
+
+struct Case {
+    ImageStatistics statistics = measured(0.5, 0.6);
+    EngineInput input;
+    AutopilotOptions options;
+
+    Autopilot::Preferences &preferences() { return options.preferences; }
+    AutopilotAnswer answer() const { return analyseImage(input, statistics, options, {}); }
+    QVariantMap entry(const char *category) const {
+        return answer().settings.value(QString::fromLatin1(category)).toMap();
+    }
+    bool enabled(const char *category) const {
+        return entry(category).value(QStringLiteral("enabled")).toBool();
+    }
+    QString model(const char *category) const {
+        return entry(category).value(QStringLiteral("model")).toString();
+    }
+    double number(const char *category, const char *key) const {
+        return entry(category).value(QString::fromLatin1(key)).toDouble();
+    }
+};
+
+Case with(double noise, double blur) {
+    Case c;
+    c.statistics = measured(noise, blur);
+    return c;
+}
+
+QString words(const char *text) {
+    return QString::fromLatin1(text);
+}
+
+} // namespace
+
+TEST(Advice, EachPreferenceSaysWhatItSays) {
+    struct Row {
+        const char *name;
+        double noise;
+        double blur;
+        std::function<void(Case &)> prefer;
+        const char *category;
+        bool enabled;
+        const char *model; ///< nullptr: any
+    };
+    using P = Autopilot::Preferences;
+    const auto set = [](auto P::*field, auto value) {
+        return [field, value](Case &c) { c.preferences().*field = value; };
+    };
+    const auto as = [&](auto P::*field, const char *value) { return set(field, words(value)); };
+    const auto levels = [&](auto P::*field, const char *list) {
+        return set(field, QString::fromLatin1(list).split(u',', Qt::SkipEmptyParts));
+    };
+    const auto none = [](Case &) {};
+    const auto raw = [](Case &c) { c.input.isRaw = true; };
+    const auto both = [](auto a, auto b) { return [=](Case &c) { a(c), b(c); }; };
+    const Row rows[] = {
+        {"clean", 0.5, 0.6, none, "Denoise", false, nullptr},
+        {"clean, sharpen", 0.5, 0.6, none, "Sharpen", false, nullptr},
+        {"low noise is left by default", 2.5, 0.6, none, "Denoise", false, nullptr},
+        {"medium noise", 6, 0.6, none, "Denoise", true, "Low Light Beta"},
+        {"severe noise", 30, 0.6, none, "Denoise", true, "Severe Noise Beta"},
+        {"extreme noise", 60, 0.6, none, "Denoise", true, "Severe Noise"},
+        {"low noise on request", 2.5, 0.6, levels(&P::denoiseLevels, "low,medium"), "Denoise", true, nullptr},
+        {"only severe noise", 15, 0.6, levels(&P::denoiseLevels, "severe"), "Denoise", false, nullptr},
+        {"noise always off", 60, 0.6, levels(&P::denoiseLevels, ""), "Denoise", false, nullptr},
+        {"forced model", 6, 0.6, as(&P::denoisingModel, "Severe Noise"), "Denoise", true, "Severe Noise"},
+        {"raw, all levels", 0.5, 0.6, both(raw, levels(&P::denoiseRawLevels, "low,medium,high,severe")),
+         "RAW", true, "RAW Native"},
+        {"raw, medium and above", 0.5, 0.6, raw, "RAW", false, "RAW Native"},
+        {"raw, severe", 30, 0.6, raw, "RAW", true, "RAW Standard"},
+        {"raw, forced model", 6, 0.6, both(raw, as(&P::denoisingRawModel, "RAW Standard")), "RAW", true,
+         "RAW Standard"},
+        {"raw without a mosaic", 6, 0.6,
+         both(raw, [](Case &c) { c.input.metadata.insert(words("linearRaw"), true); }), "RAW", true,
+         "Linear RAW"},
+        {"soft is left by default", 0.5, 1.2, none, "Sharpen", false, nullptr},
+        {"soft on request", 0.5, 1.2, levels(&P::sharpenBlurs, "low"), "Sharpen", true, nullptr},
+        {"blurry", 0.5, 1.6, none, "Sharpen", true, "Sharpen Standard v2"},
+        {"very blurry", 0.5, 3, none, "Sharpen", true, "Sharpen Strong"},
+        {"only very blurry", 0.5, 2, levels(&P::sharpenBlurs, "high"), "Sharpen", false, nullptr},
+        {"forced small blur", 0.5, 3, as(&P::sharpeningModel, "smallblur"), "Sharpen", true,
+         "Sharpen Standard v2"},
+        {"forced strong", 0.5, 1.6, as(&P::sharpeningModel, "strong"), "Sharpen", true, "Sharpen Strong"},
+        {"forced lens blur", 0.5, 1.6, as(&P::sharpeningModel, "lensblur"), "Sharpen", true,
+         "Sharpen Standard"},
+        {"no edges to judge by", 0.5, 3, [](Case &c) { c.statistics.edgeShare = 0.0005f; }, "Sharpen", false,
+         nullptr},
+        {"little of both, noise prevails", 8, 1.5, none, "Sharpen", false, nullptr},
+        {"little of both, noise prevails: kept", 8, 1.5, none, "Denoise", true, nullptr},
+        {"little of both, blur prevails", 3.3, 2.2, none, "Denoise", false, nullptr},
+        {"little of both, prefer denoise", 3.3, 2.2, as(&P::conflictResolutionPref, "denoise"), "Sharpen",
+         false, nullptr},
+        {"little of both, prefer sharpen", 8, 1.5, as(&P::conflictResolutionPref, "sharpen"), "Denoise",
+         false, nullptr},
+        {"much of both, no conflict", 15, 3, as(&P::conflictResolutionPref, "sharpen"), "Denoise", true,
+         nullptr},
+        {"dark", 0.5, 0.6, [](Case &c) { c.statistics.lumaMedian = 0.1f, c.statistics.lumaHigh = 0.4f; },
+         "Exposure Adjust", true, "Exposure Standard"},
+        {"night with lamps", 0.5, 0.6, [](Case &c) { c.statistics.lumaMedian = 0.1f; }, "Exposure Adjust",
+         false, nullptr},
+        {"sure cast", 0.5, 0.6,
+         [](Case &c) { c.statistics.illuminant = {1.4f, 1, 0.6f}, c.statistics.castConfidence = 0.9f; },
+         "White Balance Adjust", true, "White Balance Standard"},
+        {"unsure cast", 0.5, 0.6,
+         [](Case &c) { c.statistics.illuminant = {1.4f, 1, 0.6f}, c.statistics.castConfidence = 0.4f; },
+         "White Balance Adjust", false, nullptr}};
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        Case c = with(row.noise, row.blur);
+        row.prefer(c);
+        ASSERT_TRUE(c.answer().settings.contains(words(row.category)));
+        EXPECT_EQ(c.enabled(row.category), row.enabled);
+        if (row.model) {
+            EXPECT_EQ(c.model(row.category), words(row.model));
+        }
+    }
+}
+
+TEST(Advice, EveryParameterOfACategoryIsThereWhetherOnOrOff) {
+    const QMap<QString, QString> keys = {
+        {words("Denoise"),
+         words("param1_normalv2 param2_normalv2 param1_strongv2 param2_strongv2 param1 param2 "
+               "recover_detail auto")},
+        {words("Sharpen"),
+         words("param1 param2 isLens std_blur std_noise stg_blur stg_noise slens_blur slens_noise "
+               "smot_blur smot_noise smb_blur smb_noise")},
+        {words("Enhance"), words("mode scale width height resolution resolutionUnit param1 param2 param3")},
+        {words("Exposure Adjust"), words("param1")},
+        {words("White Balance Adjust"), words("temperature strength")}};
+    for (const double noise : {0.5, 20.0}) {
+        const AutopilotAnswer answer = with(noise, 0.6).answer();
+        EXPECT_EQ(answer.settings.keys(), keys.keys());
+        for (const QString &category : keys.keys()) {
+            QStringList wanted = keys[category].split(u' ') << words("enabled") << words("model");
+            wanted.sort();
+            const QVariantMap entry = answer.settings[category].toMap();
+            EXPECT_EQ(entry.keys(), wanted) << category.toStdString();
+            for (const auto &[key, value] : entry.asKeyValueRange()) {
+                if (key.startsWith(words("param")) || key.contains(u'_')) {
+                    EXPECT_TRUE(value.toDouble() >= 0 && value.toDouble() <= 1) << key.toStdString();
+                }
+            }
+        }
+    }
+    Case raw = with(20, 0.6);
+    raw.input.isRaw = true;
+    EXPECT_FALSE(raw.answer().settings.contains(words("Denoise")));
+    for (const char *key : {"param1_native", "param2_native", "param3_native", "param1_standard",
+                            "param2_standard", "param3_standard", "auto"})
+        EXPECT_TRUE(raw.entry("RAW").contains(words(key))) << key;
+}
+
+TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
+    Case noisy = with(20, 0.6);
+    EXPECT_NEAR(noisy.number("Denoise", "param1_normalv2"), 20.0 / 50, 0.01);
+    EXPECT_NEAR(noisy.number("Denoise", "param1"), 20.0 / 100, 0.01);
+    Case blurry = with(0.5, 1.8);
+    EXPECT_EQ(blurry.number("Sharpen", "param2"), blurry.number("Sharpen", "std_blur"));
+    EXPECT_NEAR(blurry.number("Sharpen", "std_blur") * StrengthScale::sharpenStandard.maximum, 1.75, 0.1);
+    double denoise = 0;
+    double sharpen = 0;
+    for (const int strength : {0, 1, 2, 3, 4}) {
+        noisy.preferences().denoiseStrength = strength;
+        blurry.preferences().sharpenStrength = strength;
+        EXPECT_GT(noisy.number("Denoise", "param1_normalv2"), denoise) << strength;
+        EXPECT_GT(blurry.number("Sharpen", "stg_blur"), sharpen) << strength;
+        denoise = noisy.number("Denoise", "param1_normalv2");
+        sharpen = blurry.number("Sharpen", "stg_blur");
+    }
+    Case smeared = with(0.5, 0.8);
+    smeared.statistics.motionBlur = true;
+    smeared.statistics.motionLength = 14;
+    EXPECT_TRUE(smeared.enabled("Sharpen"));
+    EXPECT_NEAR(smeared.number("Sharpen", "param2"), 14.0 / 16, 0.01);
+    EXPECT_FALSE(smeared.entry("Sharpen").value(words("isLens")).toBool());
+    smeared.preferences().sharpeningModel = words("lensblur");
+    EXPECT_TRUE(smeared.entry("Sharpen").value(words("isLens")).toBool());
+
+    Case toned;
+    toned.preferences().exposureStrength = -25;
+    toned.preferences().exposureRAWStrength = 60;
+    toned.preferences().temperatureValue = 70;
+    toned.preferences().opacityValue = 40;
+    EXPECT_DOUBLE_EQ(toned.number("Exposure Adjust", "param1"), -0.25);
+    EXPECT_DOUBLE_EQ(toned.number("White Balance Adjust", "temperature"), 0.7);
+    EXPECT_DOUBLE_EQ(toned.number("White Balance Adjust", "strength"), 0.4);
+    toned.input.isRaw = true;
+    EXPECT_DOUBLE_EQ(toned.number("Exposure Adjust", "param1"), 0.6);
+}
+
+TEST(Advice, TheStatusViewReadsTheSameLevels) {
+    // The view's own boundaries, as it tests them: above.
+    const auto shownAsNoise = [](double v) { return v > 0.5 ? 4 : v > 0.33 ? 3 : v > 0.09 ? 2 : 1; };
+    const auto shownAsBlur = [](double v) { return v > 0.37 ? 3 : v > 0.22 ? 2 : 1; };
+    for (const double value :
+         {0.2, 1.0, 1.35, 1.4, 2.5, 2.6, 3.2, 4.0, 12.0, 13.0, 25.0, 26.0, 80.0, 300.0}) {
+        const QVariantMap problems = with(value, value).answer().problems;
+        const QVariantMap shown = problems[words("ap_params")].toMap();
+        const int noise = std::max(1, problems[words("noise_level")].toInt());
+        const int blur = std::max(1, problems[words("blur_level")].toInt());
+        EXPECT_EQ(shownAsNoise(shown[words("noise")].toDouble()), noise) << value;
+        EXPECT_EQ(shownAsBlur(shown[words("blur")].toDouble()), blur) << value;
+    }
+    Case c;
+    EXPECT_EQ(c.answer().problems[words("faceCount")].toInt(), 0);
+    c.preferences().faceDetection = words("none");
+    EXPECT_EQ(c.answer().problems[words("faceCount")].toInt(), -1);
+    const QVariantMap reasons = c.answer().problems[words("reasons")].toMap();
+    EXPECT_EQ(reasons.keys(), c.answer().settings.keys());
+    for (const QVariant &reason : reasons)
+        EXPECT_FALSE(reason.toMap()[words("text")].toString().isEmpty());
+}

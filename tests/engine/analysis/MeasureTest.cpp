@@ -1,0 +1,135 @@
+#include "Scenes.h"
+#include "engine/analysis/ImageStatistics.h"
+
+#include <gtest/gtest.h>
+
+#include <numbers>
+
+using namespace Scenes;
+
+namespace {
+
+constexpr int Width = 640;
+constexpr int Height = 480;
+
+ImageStatistics measured(const Picture &picture) {
+    return measureImage(*image(picture), {});
+}
+
+const Picture &scene() {
+    static const Picture picture = still(Width, Height);
+    return picture;
+}
+
+double channelNoise(const ImageStatistics &statistics) {
+    return 255.0 * double(statistics.noise[0] + statistics.noise[1] + statistics.noise[2]) / 3;
+}
+
+} // namespace
+
+TEST(Noise, WhiteNoiseIsMeasured) {
+    struct Row {
+        const char *name;
+        Picture picture;
+        double sigma;
+        double tolerance;
+    };
+    const Picture dark = tinted(scene(), {0.12f, 0.1f, 0.08f});
+    const Row rows[] = {{"weak", scene(), 5, 0.05},
+                        {"medium", scene(), 12, 0.05},
+                        {"strong", scene(), 25, 0.05},
+                        {"strong enough to clip", scene(), 50, 0.08},
+                        {"flat grey", flat(256, 256, {0.5f, 0.5f, 0.5f}), 10, 0.05},
+                        {"black, half of the noise cut off", flat(256, 256, {0, 0, 0}), 10, 0.15},
+                        {"dark picture", dark, 20, 0.15}};
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        const ImageStatistics s = measured(noisy(row.picture, row.sigma));
+        EXPECT_NEAR(channelNoise(s) / row.sigma, 1, row.tolerance);
+        EXPECT_NEAR(double(s.lumaNoise) * 255 / row.sigma, 0.669, 0.13);
+        EXPECT_LT(s.grainSize, 0.3f);
+    }
+}
+
+TEST(Noise, ChannelsAreToldApart) {
+    Picture picture = noisy(scene(), 8);
+    picture[1] = scene()[1];
+    picture[2] = noisy(scene(), 24)[2];
+    const ImageStatistics s = measured(picture);
+    EXPECT_NEAR(double(s.noise[0]) * 255, 8, 1);
+    EXPECT_LT(double(s.noise[1]) * 255, 1.5);
+    EXPECT_NEAR(double(s.noise[2]) * 255, 24, 2.5);
+}
+
+TEST(Noise, CoarseGrainIsSeen) {
+    for (const double grain : {0.6, 0.9}) {
+        const ImageStatistics s = measured(grainy(scene(), 10, grain));
+        EXPECT_NEAR(double(s.grainSize), grain, 0.12) << grain;
+        EXPECT_NEAR(channelNoise(s), 10, 2) << grain;
+    }
+}
+
+TEST(Noise, EdgesAndTextureAreNotNoise) {
+    EXPECT_LT(channelNoise(measured(scene())), 1);
+}
+
+TEST(Blur, WiderBlurMeasuresWider) {
+    double before = -1;
+    for (const double sigma : {0.0, 0.7, 1.2, 2.0, 3.0, 5.0}) {
+        const double found = measured(blurred(scene(), sigma)).blur;
+        EXPECT_GT(found, before) << sigma;
+        if (sigma >= 1) {
+            EXPECT_NEAR(found / sigma, 1, 0.25) << sigma;
+        }
+        before = found;
+    }
+    const double noisyBlur = measured(noisy(blurred(scene(), 2), 6)).blur;
+    EXPECT_NEAR(noisyBlur, 2, 0.7);
+}
+
+TEST(Blur, ASmearIsToldFromSoftness) {
+    for (const double degrees : {0.0, 45.0, 120.0}) {
+        const double angle = degrees * std::numbers::pi / 180;
+        const ImageStatistics s = measured(smeared(scene(), 13, angle));
+        ASSERT_TRUE(s.motionBlur) << degrees;
+        const double turn = std::abs(double(s.motionAngle) - angle);
+        EXPECT_LT(std::min(turn, std::numbers::pi - turn), 0.25) << degrees;
+        EXPECT_GT(s.motionLength, 5) << degrees;
+    }
+    EXPECT_FALSE(measured(blurred(scene(), 2)).motionBlur);
+    EXPECT_FALSE(measured(scene()).motionBlur);
+}
+
+TEST(Compression, QualityIsReadFromThePixels) {
+    // A little noise stands for the texture that photographs have in every block.
+    const Picture lively = noisy(scene(), 3);
+    for (const int quality : {90, 75, 50, 30})
+        EXPECT_NEAR(measured(compressed(lively, quality)).jpegQuality, quality, 6) << quality;
+    EXPECT_EQ(measured(lively).jpegQuality, 100);
+    EXPECT_GT(measured(compressed(lively, 20)).blockiness, measured(lively).blockiness + 0.5f / 255);
+}
+
+TEST(Tones, PercentilesClippingAndLight) {
+    Picture half = flat(400, 400, {0.25f, 0.25f, 0.25f});
+    for (Plane &plane : half) {
+        std::fill(plane.values.begin(), plane.values.begin() + 400 * 40, 1.0f);
+        std::fill(plane.values.end() - 400 * 20, plane.values.end(), 0.0f);
+    }
+    const ImageStatistics s = measured(half);
+    EXPECT_NEAR(s.lumaLow, 0, 0.01);
+    EXPECT_NEAR(s.lumaMedian, 0.25, 0.01);
+    EXPECT_NEAR(s.lumaHigh, 1, 0.01);
+    EXPECT_NEAR(s.clippedHigh, 0.1, 0.01);
+    EXPECT_NEAR(s.clippedLow, 0.05, 0.01);
+
+    Picture grey = still(Width, Height);
+    grey[0] = grey[1];
+    grey[2] = grey[1];
+    const ImageStatistics neutral = measured(grey);
+    EXPECT_NEAR(neutral.illuminant[0], 1, 0.01);
+    EXPECT_GT(neutral.castConfidence, 0.8f);
+    const ImageStatistics warm = measured(tinted(grey, {1.15f, 1, 0.8f}));
+    EXPECT_GT(warm.illuminant[0], 1.1f);
+    EXPECT_LT(warm.illuminant[2], 0.7f);
+    EXPECT_GT(warm.castConfidence, 0.75f);
+}

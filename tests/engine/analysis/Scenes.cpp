@@ -1,0 +1,204 @@
+#include "Scenes.h"
+
+#include "engine/analysis/Smoothing.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QImage>
+
+#include <cmath>
+#include <numbers>
+#include <random>
+
+namespace Scenes {
+
+namespace {
+
+template <typename T>
+void fill(ImageData &target, const Picture &picture, float top) {
+    const auto channels = std::size_t(target.channels());
+    for (int y = 0; y < target.height(); ++y) {
+        const auto row = target.samples<T>(y);
+        for (int x = 0; x < target.width(); ++x) {
+            for (std::size_t c = 0; c < channels; ++c) {
+                const float value = c < 3 ? picture[c].at(x, y) : float((x + y) % 2);
+                row[std::size_t(x) * channels + c] = T(std::clamp(value * top + 0.5f, 0.0f, top));
+            }
+        }
+    }
+}
+
+Picture fromImage(const QImage &source) {
+    const QImage rgb = source.convertToFormat(QImage::Format_RGB888);
+    Picture picture = flat(rgb.width(), rgb.height(), {});
+    for (int y = 0; y < rgb.height(); ++y) {
+        const uchar *row = rgb.constScanLine(y);
+        for (int x = 0; x < rgb.width(); ++x) {
+            for (std::size_t c = 0; c < 3; ++c)
+                picture[c].at(x, y) = float(row[3 * x + int(c)]) / 255;
+        }
+    }
+    return picture;
+}
+
+QImage toImage(const Picture &picture) {
+    QImage rgb(picture[0].width, picture[0].height, QImage::Format_RGB888);
+    for (int y = 0; y < rgb.height(); ++y) {
+        for (int x = 0; x < rgb.width(); ++x) {
+            for (std::size_t c = 0; c < 3; ++c)
+                rgb.scanLine(y)[3 * x + int(c)] =
+                    uchar(std::clamp(picture[c].at(x, y) * 255 + 0.5f, 0.0f, 255.0f));
+        }
+    }
+    return rgb;
+}
+
+Plane normalPlane(int width, int height, std::mt19937 &random) {
+    std::normal_distribution<float> normal;
+    Plane plane(width, height);
+    for (float &value : plane.values)
+        value = normal(random);
+    return plane;
+}
+
+} // namespace
+
+Picture flat(int width, int height, const std::array<float, 3> &colour) {
+    Picture picture;
+    for (std::size_t c = 0; c < 3; ++c) {
+        picture[c] = Plane(width, height);
+        std::fill(picture[c].values.begin(), picture[c].values.end(), colour[c]);
+    }
+    return picture;
+}
+
+Picture still(int width, int height) {
+    Picture picture = flat(width, height, {});
+    // Drawn at four times the size and averaged, so that edges are as sharp as a good lens gives.
+    constexpr int Fine = 4;
+    const auto value = [width, height](double x, double y, std::size_t c) {
+        const double slope = 0.35 + 0.25 * x / width + 0.1 * y / height - 0.05 * double(c);
+        for (int disc = 0; disc < 5; ++disc) {
+            const double dx = x - width * (0.15 + 0.17 * disc);
+            const double dy = y - height * (0.25 + 0.1 * (disc % 3));
+            if (std::hypot(dx, dy) < 18 + 9 * disc)
+                return disc % 2 ? 0.75 - 0.1 * double(c) : 0.2 + 0.1 * double(c);
+        }
+        if (y > height * 0.62 && x < width * 0.5) {
+            const double turned = x * 0.8 + y * 0.6;
+            return std::fmod(turned, 46) < 17 ? 0.25 : 0.7;
+        }
+        if (y > height * 0.7 && x > width * 0.75)
+            return 0.5 + 0.12 * std::sin(x * 0.9) * std::sin(y * 0.7) + 0.06 * std::sin(x * 0.31 + y * 0.17);
+        return slope;
+    };
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            for (std::size_t c = 0; c < 3; ++c) {
+                double sum = 0;
+                for (int j = 0; j < Fine; ++j) {
+                    for (int i = 0; i < Fine; ++i)
+                        sum += value(x + (i + 0.5) / Fine, y + (j + 0.5) / Fine, c);
+                }
+                picture[c].at(x, y) = float(sum / (Fine * Fine));
+            }
+        }
+    }
+    return picture;
+}
+
+Picture noisy(const Picture &picture, double sigma) {
+    return grainy(picture, sigma, 0);
+}
+
+Picture grainy(const Picture &picture, double sigma, double grain) {
+    std::mt19937 random(1);
+    Picture result = picture;
+    for (Plane &plane : result) {
+        const Plane noise = Analysis::smoothed(normalPlane(plane.width, plane.height, random), float(grain));
+        double square = 0;
+        for (const float value : noise.values)
+            square += double(value) * double(value);
+        const double scale = sigma / 255 / std::sqrt(square / double(noise.values.size()));
+        for (std::size_t i = 0; i < plane.values.size(); ++i)
+            plane.values[i] += float(scale) * noise.values[i];
+    }
+    return result;
+}
+
+Picture blurred(const Picture &picture, double sigma) {
+    Picture result;
+    for (std::size_t c = 0; c < 3; ++c)
+        result[c] = Analysis::smoothed(picture[c], float(sigma));
+    return result;
+}
+
+Picture smeared(const Picture &picture, int length, double angle) {
+    Picture result = picture;
+    for (std::size_t c = 0; c < 3; ++c) {
+        const Plane &source = picture[c];
+        for (int y = 0; y < source.height; ++y) {
+            for (int x = 0; x < source.width; ++x) {
+                float sum = 0;
+                for (int i = 0; i < length; ++i) {
+                    const double step = i - (length - 1) / 2.0;
+                    const double fx = std::clamp(x + step * std::cos(angle), 0.0, source.width - 1.001);
+                    const double fy = std::clamp(y - step * std::sin(angle), 0.0, source.height - 1.001);
+                    const int left = int(fx);
+                    const int top = int(fy);
+                    const auto wx = float(fx - left);
+                    const auto wy = float(fy - top);
+                    sum += (1 - wy) * ((1 - wx) * source.at(left, top) + wx * source.at(left + 1, top)) +
+                           wy * ((1 - wx) * source.at(left, top + 1) + wx * source.at(left + 1, top + 1));
+                }
+                result[c].at(x, y) = sum / float(length);
+            }
+        }
+    }
+    return result;
+}
+
+Picture tinted(const Picture &picture, const std::array<float, 3> &gains) {
+    Picture result = picture;
+    for (std::size_t c = 0; c < 3; ++c) {
+        for (float &value : result[c].values)
+            value *= gains[c];
+    }
+    return result;
+}
+
+Picture compressed(const Picture &picture, int quality) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    toImage(picture).save(&buffer, "JPG", quality);
+    return fromImage(QImage::fromData(bytes));
+}
+
+std::shared_ptr<ImageData> image(const Picture &picture, SampleType type, int channels) {
+    auto result = std::make_shared<ImageData>(picture[0].width, picture[0].height, channels, type);
+    if (type == SampleType::UInt8)
+        fill<std::uint8_t>(*result, picture, 255);
+    else
+        fill<std::uint16_t>(*result, picture, 65535);
+    return result;
+}
+
+QStringList photographs() {
+    const QDir folder(QStringLiteral("/usr/share/backgrounds/mate/nature"));
+    QStringList paths;
+    for (const QString &name : folder.entryList({QStringLiteral("*.jpg")}, QDir::Files, QDir::Name))
+        paths << folder.filePath(name);
+    return paths;
+}
+
+Picture photograph(const QString &path) {
+    const QImage whole(path);
+    const QImage reduced = whole.scaled(whole.width() * 2 / 5, whole.height() * 2 / 5, Qt::IgnoreAspectRatio,
+                                        Qt::SmoothTransformation);
+    const QSize size = reduced.size().boundedTo({800, 560});
+    const QPoint corner((reduced.width() - size.width()) / 2, (reduced.height() - size.height()) / 2);
+    return fromImage(reduced.copy(QRect(corner, size)));
+}
+
+} // namespace Scenes

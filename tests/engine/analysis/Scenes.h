@@ -1,0 +1,41 @@
+#pragma once
+
+#include "contracts/ImageData.h"
+#include "engine/analysis/Planes.h"
+
+#include <QStringList>
+
+#include <memory>
+
+/// Pictures to measure, made here or read from desktop photographs, and ways to spoil them.
+namespace Scenes {
+
+using Analysis::Crop;
+using Analysis::Plane;
+
+/// Three channels of values from 0 to 1.
+using Picture = std::array<Plane, 3>;
+
+Picture flat(int width, int height, const std::array<float, 3> &colour);
+/// Slopes, discs and bars with sharp edges, a checked and a grainless textured corner, in colour.
+Picture still(int width, int height);
+
+/// White noise, independent in the channels; `sigma` on the 8-bit scale.
+Picture noisy(const Picture &picture, double sigma);
+/// Noise that is correlated like white noise smoothed by `grain` pixels.
+Picture grainy(const Picture &picture, double sigma, double grain);
+Picture blurred(const Picture &picture, double sigma);
+/// Smeared over `length` pixels at `angle` (radians, counter-clockwise).
+Picture smeared(const Picture &picture, int length, double angle);
+Picture tinted(const Picture &picture, const std::array<float, 3> &gains);
+Picture compressed(const Picture &picture, int quality);
+
+std::shared_ptr<ImageData> image(const Picture &picture, SampleType type = SampleType::UInt8,
+                                 int channels = 3);
+
+/// Photographs that the machine has; empty on one without them.
+QStringList photographs();
+/// Reduced to 0.4, which takes old compression away, and cut to a size that measures quickly.
+Picture photograph(const QString &path);
+
+} // namespace Scenes

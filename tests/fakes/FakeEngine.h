@@ -1,0 +1,67 @@
+#pragma once
+
+#include "contracts/ProcessingBackend.h"
+#include "tests/fakes/Hold.h"
+
+#include <mutex>
+#include <vector>
+
+/// An engine that gives back its input. Scripts are set before the work begins; records may be read
+/// at any time. Close a hold to keep work of that kind under way.
+class FakeEngine : public ProcessingBackend {
+public:
+    using Analyse =
+        std::function<AutopilotAnswer(const EngineInput &, const AutopilotOptions &, const RunControl &)>;
+    using Process = std::function<ProcResult(const ProcRequest &, const RunControl &)>;
+
+    QVariantMap models;
+    AutopilotAnswer advice; ///< the answer unless onAnalyse is set
+    Analyse onAnalyse;
+    Process onProcess;
+    Hold analysisHold;
+    Hold processHold;
+
+    std::vector<ProcRequest> requests() const { return read(m_requests); }
+    std::vector<std::pair<EngineInput, AutopilotOptions>> analyses() const { return read(m_analyses); }
+    std::vector<QString> catalogues() const { return read(m_catalogues); }
+    std::vector<QString> clearedCaches() const { return read(m_cleared); }
+
+    QVariantMap catalogue(const QString &directory) override {
+        record(m_catalogues, directory);
+        return models;
+    }
+    AutopilotAnswer analyse(const EngineInput &input, const AutopilotOptions &options,
+                            const RunControl &control) override {
+        record(m_analyses, {input, options});
+        if (!analysisHold.pass(control))
+            return {.cancelled = true};
+        return onAnalyse ? onAnalyse(input, options, control) : advice;
+    }
+    ProcResult process(const ProcRequest &request, const RunControl &control) override {
+        record(m_requests, request);
+        if (!processHold.pass(control))
+            return {.cancelled = true};
+        if (onProcess)
+            return onProcess(request, control);
+        return {.image = std::const_pointer_cast<ImageData>(request.input.image), .region = request.region};
+    }
+    void clearCache(const QString &uid) override { record(m_cleared, uid); }
+
+private:
+    template <typename T>
+    void record(std::vector<T> &records, const T &entry) {
+        const std::scoped_lock lock(m_mutex);
+        records.push_back(entry);
+    }
+    template <typename T>
+    T read(const T &records) const {
+        const std::scoped_lock lock(m_mutex);
+        return records;
+    }
+
+    mutable std::mutex m_mutex;
+    std::vector<ProcRequest> m_requests;
+    std::vector<std::pair<EngineInput, AutopilotOptions>> m_analyses;
+    std::vector<QString> m_catalogues;
+    std::vector<QString> m_cleared;
+};

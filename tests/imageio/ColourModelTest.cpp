@@ -1,0 +1,189 @@
+#include "TestFiles.h"
+
+#include <OpenImageIO/imageio.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+#include <jpeglib.h>
+#include <tiffio.h>
+
+using namespace testio;
+
+namespace {
+
+/// A file of one colour through the image library.
+void writePlain(const QString &path, const std::vector<float> &colour, OIIO::TypeDesc type,
+                const std::function<void(OIIO::ImageSpec &)> &adjust = {}) {
+    OIIO::ImageSpec spec(24, 20, int(colour.size()), type);
+    if (adjust)
+        adjust(spec);
+    const auto out = OIIO::ImageOutput::create(path.toStdString());
+    ASSERT_TRUE(out && out->open(path.toStdString(), spec));
+    std::vector<float> pixels;
+    for (int i = 0; i < spec.width * spec.height; ++i)
+        pixels.insert(pixels.end(), colour.begin(), colour.end());
+    ASSERT_TRUE(out->write_image(OIIO::TypeFloat, pixels.data()));
+    ASSERT_TRUE(out->close());
+}
+
+struct TiffKind {
+    std::uint16_t photometric;
+    std::uint16_t bits;
+    std::vector<std::uint16_t> samples; ///< of one pixel, of `bits` each
+    int extra = -1;                     ///< meaning of the last sample, TIFF tag 338
+};
+
+void writeTiff(const QString &path, const TiffKind &kind) {
+    TIFF *tiff = TIFFOpen(QFile::encodeName(path).constData(), "w");
+    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, 24);
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, 20);
+    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, kind.bits);
+    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, int(kind.samples.size()));
+    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, kind.photometric);
+    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+    if (kind.photometric == PHOTOMETRIC_PALETTE) {
+        std::vector<std::uint16_t> table(256, 0);
+        table[5] = 0xffff;
+        std::vector<std::uint16_t> none(256, 0);
+        TIFFSetField(tiff, TIFFTAG_COLORMAP, table.data(), none.data(), none.data());
+    }
+    if (kind.extra >= 0) {
+        const auto meaning = std::uint16_t(kind.extra);
+        TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, 1, &meaning);
+    }
+    std::vector<std::uint8_t> row;
+    for (int x = 0; x < 24; ++x) {
+        for (const std::uint16_t sample : kind.samples) {
+            row.push_back(std::uint8_t(sample));
+            if (kind.bits == 16)
+                row.push_back(std::uint8_t(sample >> 8));
+        }
+    }
+    for (std::uint32_t y = 0; y < 20; ++y)
+        TIFFWriteScanline(tiff, row.data(), y);
+    TIFFClose(tiff);
+}
+
+void writeCmykJpeg(const QString &path, std::array<std::uint8_t, 4> colour) {
+    std::FILE *file = std::fopen(QFile::encodeName(path).constData(), "wb");
+    jpeg_compress_struct info{};
+    jpeg_error_mgr errors{};
+    info.err = jpeg_std_error(&errors);
+    jpeg_create_compress(&info);
+    jpeg_stdio_dest(&info, file);
+    info.image_width = info.image_height = 24;
+    info.input_components = 4;
+    info.in_color_space = JCS_CMYK;
+    jpeg_set_defaults(&info); // writes the marker that says 0 is full ink
+    jpeg_start_compress(&info, TRUE);
+    std::vector<std::uint8_t> row;
+    for (int x = 0; x < 24; ++x)
+        row.insert(row.end(), colour.begin(), colour.end());
+    JSAMPROW rows[] = {row.data()};
+    while (info.next_scanline < info.image_height)
+        jpeg_write_scanlines(&info, rows, 1);
+    jpeg_finish_compress(&info);
+    jpeg_destroy_compress(&info);
+    std::fclose(file);
+}
+
+struct Expected {
+    const char *name;
+    std::vector<double> value; ///< of one pixel, 0 to 255
+    int bits;
+    double tolerance = 0.6;
+};
+
+void expectPicture(const QString &path, const Expected &expected) {
+    SCOPED_TRACE(expected.name);
+    const ReadResult back = read(path);
+    ASSERT_TRUE(back.image) << back.error.toStdString();
+    EXPECT_EQ(back.image->bitDepth(), expected.bits);
+    ASSERT_EQ(back.image->channels(), int(expected.value.size()));
+    for (int c = 0; c < back.image->channels(); ++c)
+        EXPECT_NEAR(valueAt(*back.image, 11, 19, c), expected.value[std::size_t(c)], expected.tolerance) << c;
+}
+
+} // namespace
+
+TEST(ColourModel, EverythingBecomesRgbOrRgba) {
+    const Folder folder;
+    int files = 0;
+    const auto file = [&](const char *ending) { return folder((std::to_string(files++) + ending).c_str()); };
+
+    QString path = file(".png");
+    writePlain(path, {0.4f}, OIIO::TypeDesc::UINT8);
+    expectPicture(path, {"grey PNG", {102, 102, 102}, 8});
+
+    path = file(".png");
+    writePlain(path, {0.6f, 0.5f}, OIIO::TypeDesc::UINT16, [](OIIO::ImageSpec &s) {
+        s.channelnames = {"Y", "A"};
+        s.alpha_channel = 1;
+        s.attribute("oiio:UnassociatedAlpha", 1);
+    });
+    expectPicture(path, {"grey PNG with alpha", {153, 153, 153, 127.5}, 16});
+
+    path = file(".jpg");
+    writePlain(path, {0.4f}, OIIO::TypeDesc::UINT8);
+    expectPicture(path, {"grey JPEG", {102, 102, 102}, 8});
+
+    path = file(".tif");
+    writePlain(path, {0.25f, 0.5f, 2.0f}, OIIO::TypeDesc::FLOAT);
+    expectPicture(path, {"float TIFF", {63.75, 127.5, 255}, 16});
+
+    path = file(".tif");
+    writePlain(path, {0.25f, 0.5f, 0.75f}, OIIO::TypeDesc::UINT32);
+    expectPicture(path, {"32-bit TIFF", {63.75, 127.5, 191.25}, 16});
+
+    path = file(".tif");
+    writePlain(path, {0.2f, 0.4f, 0.6f}, OIIO::TypeDesc::UINT8,
+               [](OIIO::ImageSpec &s) { s.tile_width = s.tile_height = 16; });
+    expectPicture(path, {"tiled TIFF", {51, 102, 153}, 8});
+
+    path = file(".tif");
+    writeTiff(path, {PHOTOMETRIC_MINISWHITE, 8, {55}});
+    expectPicture(path, {"TIFF with white at 0", {200, 200, 200}, 8});
+
+    path = file(".tif");
+    writeTiff(path, {PHOTOMETRIC_PALETTE, 8, {5}});
+    expectPicture(path, {"palette TIFF", {255, 0, 0}, 8});
+
+    path = file(".tif");
+    writeTiff(path, {PHOTOMETRIC_RGB, 8, {100, 50, 25, 128}, EXTRASAMPLE_ASSOCALPHA});
+    expectPicture(path, {"TIFF with colour multiplied by alpha", {199, 100, 50, 128}, 8});
+
+    path = file(".tif");
+    writeTiff(path, {PHOTOMETRIC_RGB, 16, {0x2000, 0x4000, 0x8000, 0x1234}, EXTRASAMPLE_UNSPECIFIED});
+    expectPicture(path, {"TIFF with a fourth channel that is no alpha", {31.9, 63.8, 127.5}, 16});
+
+    path = file(".tif");
+    writeTiff(path, {PHOTOMETRIC_SEPARATED, 8, {0, 255, 255, 51}});
+    expectPicture(path, {"CMYK TIFF", {204, 0, 0}, 8});
+
+    path = file(".tif");
+    writeTiff(path, {PHOTOMETRIC_SEPARATED, 16, {0xffff, 0, 0, 0}});
+    expectPicture(path, {"CMYK TIFF, 16 bits", {0, 255, 255}, 16});
+
+    path = file(".jpg");
+    writeCmykJpeg(path, {255, 0, 255, 204});
+    expectPicture(path, {"CMYK JPEG", {204, 0, 204}, 8, 3});
+}
+
+TEST(ColourModel, WideColoursStayWideWhereTheFormatHasAProfileAndAreConvertedWhereNot) {
+    const Folder folder;
+    const auto image = quarters(40, 40);
+    image->setIccProfile(wideProfile());
+    ASSERT_EQ(write(image, folder("a.bmp")).error.toStdString(), "");
+    ASSERT_EQ(write(image, folder("a.dng")).error.toStdString(), "");
+    // Full green of the wide space lies outside sRGB: its green clips at full, red falls to none.
+    for (const char *name : {"a.bmp", "a.dng"}) {
+        SCOPED_TRACE(name);
+        const ReadResult back = read(folder(name));
+        ASSERT_TRUE(back.image) << back.error.toStdString();
+        EXPECT_EQ(colourAt(*back.image, 35, 5), "green");
+        EXPECT_LT(valueAt(*back.image, 35, 5, 0), 10);
+        EXPECT_EQ(back.metadata.value(QStringLiteral("colorSpace")).toString().toStdString(), "sRGB");
+    }
+}

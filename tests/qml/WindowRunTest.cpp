@@ -1,0 +1,45 @@
+#include "WindowRun.h"
+
+#include <QRect>
+
+using namespace Qt::StringLiterals;
+
+TEST_F(WindowRun, PictureIsReadAnalysedAndProcessed) {
+    const QString path = picture(u"photo.jpg"_s, 1600, 1000);
+    setting(u"autopilotRecommendFilters"_s, true);
+    setting(u"lastAppVersion"_s, u"3.1.2"_s);
+    start({path});
+    EXPECT_TRUE(waitForLog("Main window loaded"));
+    EXPECT_TRUE(waitForLog("Loading file: " + path.toUtf8()));
+    EXPECT_TRUE(waitForLog("[PROC] Starting proc"));
+    ASSERT_TRUE(waitForLog("[PROC] Proc finished"));
+    EXPECT_EQ(log().count("[PROC] Proc finished"), 1) << "one answer for a new picture";
+    EXPECT_EQ(setting(u"recentFiles"_s).toStringList(), QStringList(path));
+
+    // The first close asks, because there are changes; Return gives the answer that closes.
+    ASSERT_TRUE(keys({u"alt+F4"_s}));
+    EXPECT_TRUE(isRunning());
+    ASSERT_TRUE(keys({u"Return"_s}));
+    EXPECT_EQ(waitForEnd(), 0);
+}
+
+TEST_F(WindowRun, DamagedPictureIsReportedAndClosed) {
+    const QString path = file(u"broken.jpg"_s, "\xff\xd8\xff\xe0 this is no picture");
+    start({path});
+    ASSERT_TRUE(waitForLog("Could not load image: " + path.toUtf8()));
+    EXPECT_FALSE(log().contains("[PROC] Starting proc"));
+    ASSERT_TRUE(keys({u"Escape"_s, u"alt+F4"_s}));
+    EXPECT_EQ(waitForEnd(), 0) << "nothing is open, so nothing is asked";
+}
+
+TEST_F(WindowRun, WindowStaysWhereItWas) {
+    const QRect place(20, 40, 1300, 760);
+    setting(u"windowGeometry"_s, QRectF(place));
+    for (int i = 0; i < 2; ++i) {
+        start({});
+        ASSERT_TRUE(waitForLog("Main window loaded"));
+        ASSERT_TRUE(keys({u"alt+F4"_s}));
+        ASSERT_EQ(waitForEnd(), 0);
+        EXPECT_EQ(setting(u"windowGeometry"_s).toRectF(), QRectF(place));
+    }
+}
