@@ -90,15 +90,29 @@ bool WindowRun::waitForLog(const QByteArray &text) {
     return true;
 }
 
+bool WindowRun::focus() {
+    const QString id = QString::number(m_process.processId());
+    const auto xdotool = [](const QStringList &arguments) {
+        QProcess tool;
+        tool.start(u"xdotool"_s, arguments);
+        const bool done = tool.waitForFinished(10000) && tool.exitCode() == 0;
+        return done ? QString::fromLatin1(tool.readAllStandardOutput()).trimmed() : QString();
+    };
+    // There is no window manager to give the window the keyboard. A window that is not on the screen yet refuses it.
+    for (const QDeadlineTimer deadline(60000); !deadline.hasExpired() && isRunning(); QThread::msleep(100)) {
+        const QStringList windows =
+            xdotool({u"search"_s, u"--onlyvisible"_s, u"--pid"_s, id}).split(u'\n', Qt::SkipEmptyParts);
+        for (const QString &window : windows) {
+            xdotool({u"windowfocus"_s, window});
+            if (xdotool({u"getwindowfocus"_s, u"-f"_s}) == window)
+                return true;
+        }
+    }
+    return false;
+}
+
 bool WindowRun::keys(const QStringList &names) {
-    QProcess search;
-    search.start(u"xdotool"_s, {u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--pid"_s,
-                                QString::number(m_process.processId())});
-    if (!search.waitForFinished() || search.exitCode() != 0)
-        return false;
-    const QString window = QString::fromLatin1(search.readAllStandardOutput()).split(u'\n').value(0);
-    // There is no window manager to give the window the keyboard.
-    if (QProcess::execute(u"xdotool"_s, {u"windowfocus"_s, window}) != 0)
+    if (!focus())
         return false;
     for (const QString &name : names) {
         QThread::msleep(1000);
@@ -108,8 +122,16 @@ bool WindowRun::keys(const QStringList &names) {
     return true;
 }
 
+int WindowRun::pressUntilEnd(const QString &name) {
+    for (const QDeadlineTimer deadline(60000); !deadline.hasExpired() && isRunning();) {
+        if (!m_process.waitForFinished(1000) && isRunning())
+            QProcess::execute(u"xdotool"_s, {u"key"_s, name});
+    }
+    return waitForEnd();
+}
+
 int WindowRun::waitForEnd() {
-    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(20000))
+    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(60000))
         return -1;
     return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
 }

@@ -26,10 +26,14 @@ protected:
     bool waitForLog(const QByteArray &text);
     /// Sends keys to the window, in the names of X.
     bool keys(const QStringList &names);
-    /// Its exit code, or -1 when it did not end within twenty seconds.
+    /// Presses a key once a second until the program ends, for a question that may take its time to appear.
+    int pressUntilEnd(const QString &name);
+    /// Its exit code, or -1 when it did not end within a minute.
     int waitForEnd();
 
 private:
+    /// Gives the window the keyboard; false when it has not taken it within a minute.
+    bool focus();
     QString settingsFile() const;
 
     QTemporaryDir m_home;
