@@ -1,0 +1,84 @@
+"""Writes a network's weights as ONNX and describes them in a card. Usage: export.py RECIPE FILE.onnx
+
+The file's inputs are `image` (1, 3, H, W), H and W even, and `condition` (1, K); its output is `result`.
+"""
+import contextlib
+import os
+import pathlib
+import sys
+
+import numpy
+import onnxruntime
+import torch
+
+import checkpoints
+import validate
+from photographs import files
+from recipes import RECIPES
+
+
+@contextlib.contextmanager
+def _quiet():
+    """The runtime registers its operators twice and says so a thousand times when its first session is made."""
+    kept, nothing = os.dup(2), os.open(os.devnull, os.O_WRONLY)
+    os.dup2(nothing, 2)
+    try:
+        yield
+    finally:
+        os.dup2(kept, 2)
+        os.close(kept)
+        os.close(nothing)
+
+
+def write(network, file):
+    network.eval()
+    example = (torch.rand(1, 3, 64, 96), torch.rand(1, network.shape["conditions"]))
+    torch.onnx.export(network, example, str(file), input_names=["image", "condition"], output_names=["result"],
+                      dynamic_axes={"image": {2: "height", 3: "width"}, "result": {2: "height", 3: "width"}},
+                      opset_version=17, dynamo=False)
+    with _quiet():
+        session = onnxruntime.InferenceSession(str(file), providers=["CPUExecutionProvider"])
+    image, condition = torch.rand(1, 3, 128, 80), torch.rand(1, network.shape["conditions"])
+    with torch.no_grad():
+        expected = network(image, condition).numpy()
+    got = session.run(None, {"image": image.numpy(), "condition": condition.numpy()})[0]
+    difference = float(numpy.abs(got - expected).max())
+    if difference > 1e-4:
+        raise SystemExit(f"{file}: the file answers otherwise than the network, by {difference}")
+
+
+def card(recipe, network, state):
+    packages = sorted({line.split()[1] for line in
+                       (pathlib.Path(__file__).parent / "photographs.txt").read_text().splitlines() if line.startswith("train ")})
+    rows = [f"| {name} | {before:.2f} | {after:.2f} |" for name, before, after in validate.scores(network)]
+    mix = ", ".join(f"{key} {value}" for key, value in vars(recipe.mix).items())
+    return "\n".join([
+        f"# {recipe.name}",
+        "",
+        f"A network of {recipe.blocks} residual blocks of 3x3 convolutions with {recipe.channels} channels at half resolution, "
+        f"scale {recipe.scale}: {sum(p.numel() for p in network.parameters()):,} parameters, "
+        f"{network.multiply_adds / 1000:.1f} thousand multiply-adds for each input pixel, halo {network.halo} pixels.",
+        "",
+        f"- Conditions: {'; '.join(recipe.conditions)}.",
+        f"- Learned from {len(files('train'))} photographs of the packages {', '.join(packages)} (free licences, named in their "
+        "copyright files), scaled to 0.35, 0.5 and 0.7.",
+        f"- Started from: {recipe.start or 'random weights'}; {state['step']:,} steps of {recipe.batch} patches of {recipe.side} "
+        f"pixels, seed 1, {state.get('hours', 0):.1f} hours on one core.",
+        f"- Degradations (chances and ranges; noise in 8-bit levels, widths in pixels): {mix}.",
+        f"- Licence: that of this program.",
+        "",
+        "Means over the validation photographs, PSNR in dB:",
+        "",
+        "| degradation | degraded | restored |",
+        "|---|---|---|",
+        *rows,
+        "",
+    ])
+
+
+if __name__ == "__main__":
+    name, file = sys.argv[1], pathlib.Path(sys.argv[2])
+    torch.set_num_threads(2)
+    chosen, (trained, kept) = RECIPES[name], checkpoints.load(name)
+    write(trained, file)
+    file.with_suffix(".md").write_text(card(chosen, trained, kept))
