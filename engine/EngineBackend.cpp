@@ -34,6 +34,7 @@ private:
     const int m_tileSide;
     StageCache m_cache;
     ImageFacts m_facts;
+    NetworkStore m_networks;
     std::mutex m_mutex;
     std::shared_ptr<const ModelCatalogue> m_models;
 };
@@ -56,7 +57,10 @@ std::shared_ptr<const ModelCatalogue> EngineBackend::models() {
 }
 
 QVariantMap EngineBackend::catalogue(const QString &modelDirectory) {
-    const auto read = ModelCatalogue::read(modelDirectory, Filters::supports);
+    const auto read =
+        ModelCatalogue::read(modelDirectory, [this](const ModelDefinition &definition, QString *why) {
+            return Filters::supports(definition, m_networks, why);
+        });
     if (!read->isEmpty()) {
         const std::lock_guard lock(m_mutex);
         m_models = read;
@@ -114,13 +118,15 @@ ProcResult EngineBackend::run(const ProcRequest &request, const RunControl &cont
         statistics = *measured;
     }
     StageChain chain(image);
-    const QString error = buildFilterStack(request, *models(), statistics, chain);
+    const QString error = buildFilterStack(request, *models(), statistics, m_networks, chain);
     if (!error.isEmpty())
         return failed(error);
 
     const bool exports = request.exporting || request.full;
     StageChain::Outcome outcome =
         chain.run(region, {request.input.uid, m_threads, m_tileSide, &m_cache, !exports}, control);
+    if (exports)
+        m_networks.releaseMemory();
     ProcResult result;
     result.cancelled = outcome.cancelled;
     result.error = outcome.error;

@@ -26,6 +26,26 @@ QStringList definitionFiles(const QString &directory) {
     return files;
 }
 
+/// Finds the weight files of a definition; an error text when one lies elsewhere.
+QString placeNetworks(ModelDefinition &definition, const QString &path, const QString &root) {
+    const QString inside = QDir::cleanPath(QFileInfo(root).absoluteFilePath()) + QLatin1Char('/');
+    for (NetworkDefinition &network : definition.networks) {
+        network.path = QDir::cleanPath(QFileInfo(path).absoluteDir().absoluteFilePath(network.file));
+        if (!network.path.startsWith(inside))
+            return QStringLiteral("%1 lies outside the models' folder").arg(network.file);
+    }
+    return {};
+}
+
+template <typename T>
+const T *lookUp(const QMap<QString, QMap<QString, T>> &map, const QString &category, const QString &model) {
+    const auto models = map.constFind(category);
+    if (models == map.cend() || models->isEmpty())
+        return nullptr;
+    const auto found = model.isEmpty() ? models->cbegin() : models->constFind(model);
+    return found == models->cend() ? nullptr : &*found;
+}
+
 QVariantMap parameterMap(const ParameterDefinition &parameter) {
     if (parameter.isFlag)
         return {{QStringLiteral("default"), parameter.initial != 0}};
@@ -49,9 +69,15 @@ std::shared_ptr<const ModelCatalogue> ModelCatalogue::read(const QString &direct
             continue;
         }
         QString error;
-        const auto definition = parseModelDefinition(file.read(MaxFile), &error);
-        if (!definition || !supports(*definition, &error)) {
+        auto definition = parseModelDefinition(file.read(MaxFile), &error);
+        if (!definition) {
             skip(error);
+            continue;
+        }
+        error = placeNetworks(*definition, path, directory);
+        if (!error.isEmpty() || !supports(*definition, &error)) {
+            skip(error);
+            catalogue->m_problems[definition->category].insert(definition->model, error);
             continue;
         }
         auto &models = catalogue->m_models[definition->category];
@@ -64,11 +90,12 @@ std::shared_ptr<const ModelCatalogue> ModelCatalogue::read(const QString &direct
 }
 
 const ModelDefinition *ModelCatalogue::find(const QString &category, const QString &model) const {
-    const auto models = m_models.constFind(category);
-    if (models == m_models.cend() || models->isEmpty())
-        return nullptr;
-    const auto found = model.isEmpty() ? models->cbegin() : models->constFind(model);
-    return found == models->cend() ? nullptr : &*found;
+    return lookUp(m_models, category, model);
+}
+
+QString ModelCatalogue::problem(const QString &category, const QString &model) const {
+    const QString *found = find(category, model) ? nullptr : lookUp(m_problems, category, model);
+    return found ? *found : QString();
 }
 
 QVariantMap ModelCatalogue::toMap() const {

@@ -16,16 +16,21 @@ public:
 
     /// Reads `directory`/<category>/<model>.json, all of them in the order of their paths. A file
     /// that is damaged, too large, not supported or a second one for its model is skipped with a
-    /// line in the log.
+    /// line in the log. Weight files stand somewhere below `directory`.
     static std::shared_ptr<const ModelCatalogue> read(const QString &directory, const Supports &supports);
 
-    bool isEmpty() const { return m_models.isEmpty(); }
+    /// Whether no definition was found, not even one that can't be used.
+    bool isEmpty() const { return m_models.isEmpty() && m_problems.isEmpty(); }
     bool hasCategory(const QString &category) const { return m_models.contains(category); }
     /// Null when there is none. An empty name gives the category's first model.
     const ModelDefinition *find(const QString &category, const QString &model) const;
+    /// Why a model that has a definition isn't there; empty when there is nothing to say. An empty
+    /// name asks for the category's first model.
+    QString problem(const QString &category, const QString &model) const;
     /// Category to model to { gui: { parameters: { name: { default, min, max } } } }.
     QVariantMap toMap() const;
 
 private:
     QMap<QString, QMap<QString, ModelDefinition>> m_models;
+    QMap<QString, QMap<QString, QString>> m_problems;
 };

@@ -86,5 +86,10 @@ std::optional<ModelDefinition> parseModelDefinition(const QByteArray &json, QStr
             return fail(problem);
         definition.parameters.append(parameter);
     }
+    if (definition.kind == QStringLiteral("network")) {
+        definition.networks = parseNetworks(object.value(QStringLiteral("networks")).toArray(), error);
+        if (definition.networks.isEmpty())
+            return std::nullopt;
+    }
     return definition;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "engine/catalogue/NetworkDefinition.h"
+
 #include <QByteArray>
 #include <QJsonObject>
-#include <QList>
-#include <QString>
 
 #include <optional>
 
@@ -21,10 +21,11 @@ struct ParameterDefinition {
 struct ModelDefinition {
     QString category;
     QString model;
-    QString kind;      ///< "classical"
+    QString kind;      ///< "classical" or "network"
     QString operation; ///< the filter that runs it
     QList<ParameterDefinition> parameters;
-    QJsonObject constants; ///< what the operation wants to know besides; fixed for the model
+    QList<NetworkDefinition> networks; ///< of a "network", at least one
+    QJsonObject constants;             ///< what the operation wants to know besides; fixed for the model
 
     const ParameterDefinition *byRole(const QString &role) const;
     double constant(const QString &name, double fallback) const;

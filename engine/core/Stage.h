@@ -31,7 +31,7 @@ public:
     virtual double cost() const { return 1; }
 
     /// `in` covers inputRegion(out.area). May return early, leaving `out` unfinished, once a stop
-    /// is requested; looks at least every few milliseconds.
-    virtual void run(const FloatTile &in, FloatTile &out, Scratch &scratch,
-                     const std::stop_token &stop) const = 0;
+    /// is requested; looks at least every few milliseconds. Returns what went wrong, mostly nothing.
+    virtual QString run(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                        const std::stop_token &stop) const = 0;
 };

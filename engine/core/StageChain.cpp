@@ -60,31 +60,41 @@ StageChain::Outcome StageChain::runStage(std::size_t i, const Part &input, const
         outcome.error = outOfMemory({area.width, area.height});
         return outcome;
     }
-    const auto tiles = tilesOf(area, settings.tileSide > 0 ? settings.tileSide : stage.tileSide());
-    const auto work = [&](const TRect &tile, Scratch &scratch) {
+    const auto tiles =
+        tilesOf(area, settings.tileSide > 0 ? settings.tileSide : stage.tileSide(), settings.threads);
+    const auto work = [&](const TRect &tile, Scratch &scratch) -> QString {
         const bool alpha = m_image->hasAlpha() && stage.makesAlpha();
         const int channels = alpha ? 4 : 3;
         FloatTile out = FloatTile::make(scratch, tile, channels);
         FloatTile in = FloatTile::make(scratch, stage.inputRegion(tile), channels);
         PixelTransfer::load(*input.image, input.covered, m_sizes[i], in);
-        stage.run(in, out, scratch, control.stop);
-        if (control.stopped())
-            return;
+        const QString error = stage.run(in, out, scratch, control.stop);
+        if (control.stopped() || !error.isEmpty())
+            return error;
         PixelTransfer::store(out, *target, area);
         if (!alpha)
             PixelTransfer::copyAlpha(*input.image, input.covered, *target, area, tile);
+        return {};
     };
     const double share = this->work(i, area) / progress.total;
-    const TileRun end = runTiles(tiles, settings.threads, control.stop, work, [&](std::size_t finished) {
+    const TileRun run = runTiles(tiles, settings.threads, control.stop, work, [&](std::size_t finished) {
         control.report(progress.done / progress.total + share * double(finished) / double(tiles.size()),
                        stage.name());
     });
-    if (end == TileRun::Done)
+    switch (run.end) {
+    case TileRun::End::Done:
         outcome.image = std::move(target);
-    else if (end == TileRun::OutOfMemory)
-        outcome.error = outOfMemory(m_sizes[i + 1]);
-    else
+        break;
+    case TileRun::End::Stopped:
         outcome.cancelled = true;
+        break;
+    case TileRun::End::OutOfMemory:
+        outcome.error = outOfMemory(m_sizes[i + 1]);
+        break;
+    case TileRun::End::Failed:
+        outcome.error = run.error;
+        break;
+    }
     return outcome;
 }
 

@@ -15,9 +15,10 @@ public:
     QString name() const override { return QStringLiteral("Denoise"); }
     TRect inputRegion(const TRect &output) const override { return Region::grown(output, BlockShrink::Halo); }
     double cost() const override { return 4; }
-    void run(const FloatTile &in, FloatTile &out, Scratch &scratch,
-             const std::stop_token &stop) const override {
+    QString run(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                const std::stop_token &stop) const override {
         m_shrink.run(in.planes, out.planes, out.area, scratch, stop);
+        return {};
     }
 
 private:
@@ -26,7 +27,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<Stage> makeDenoiseStage(const FilterInput &input) {
+Made makeDenoiseStage(const FilterInput &input) {
     const FilterValues &values = input.values;
     const ModelDefinition &model = values.definition();
     const StrengthScale::Linear scale{model.constant(QStringLiteral("sigmaMax"), 50) / 255};
@@ -45,6 +46,6 @@ std::unique_ptr<Stage> makeDenoiseStage(const FilterInput &input) {
     settings.floor =
         std::sqrt((measured[0] * measured[0] + measured[1] * measured[1] + measured[2] * measured[2]) / 3);
     if (settings.takesNothing() && settings.deblur <= 0)
-        return nullptr;
-    return std::make_unique<DenoiseStage>(settings);
+        return {};
+    return {std::make_unique<DenoiseStage>(settings), {}};
 }

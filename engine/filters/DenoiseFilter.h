@@ -2,4 +2,4 @@
 
 #include "engine/filters/Filters.h"
 
-std::unique_ptr<Stage> makeDenoiseStage(const FilterInput &input);
+Made makeDenoiseStage(const FilterInput &input);

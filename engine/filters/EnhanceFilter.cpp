@@ -1,22 +1,20 @@
 #include "engine/filters/EnhanceFilter.h"
 
 #include "engine/filters/EnhanceSize.h"
+#include "engine/filters/ResizeStage.h"
 #include "engine/kernels/BlockShrink.h"
 #include "engine/kernels/EdgeSharpen.h"
 #include "engine/kernels/LocalRange.h"
 #include "engine/kernels/LumaDeblur.h"
-#include "engine/kernels/Resampler.h"
+#include "engine/kernels/TileResize.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr float LeastAlpha = 1e-4f; ///< so that colour is defined where nothing is to be seen
-
 struct EnhanceSettings {
     double scale = 1;
     QSize input;
-    QSize output;
     Resampler::Kernel kernel = Resampler::Kernel::Lanczos3;
     float overshoot = 0; ///< ringing allowed beyond the neighbouring input pixels, share of their range
     BlockShrink::Settings shrink;
@@ -26,34 +24,27 @@ struct EnhanceSettings {
 
 /// Clean, deblur, resize, steepen. Reductions are deblurred after the resize, where the blur of the
 /// slider is one of the pixels seen; enlargements before it, where it costs less.
-class EnhanceStage final : public Stage {
+class EnhanceStage final : public ResizeStage {
 public:
     explicit EnhanceStage(const EnhanceSettings &s)
-        : m_scale(s.scale)
-        , m_input(s.input)
-        , m_output(s.output)
+        : ResizeStage(s.scale, s.input)
         , m_shrinks(!s.shrink.takesNothing())
         , m_overshoot(s.overshoot)
-        , m_horizontal(s.kernel, s.input.width(), s.output.width())
-        , m_vertical(s.kernel, s.input.height(), s.output.height())
+        , m_horizontal(s.kernel, s.input.width(), m_output.width())
+        , m_vertical(s.kernel, s.input.height(), m_output.height())
         , m_shrink(s.shrink)
         , m_deblur(s.deblur)
         , m_edges(s.edges) {}
 
-    QString name() const override { return QStringLiteral("Enhance"); }
-    QSize outputSize(const QSize &) const override { return m_output; }
-    double scale() const override { return m_scale; }
-    bool makesAlpha() const override { return true; }
     double cost() const override { return 2 + 5 / (m_scale * m_scale); }
     /// Keeps the input of a tile about the same, whatever the scale.
     int tileSide() const override { return std::clamp(int(Stage::tileSide() * m_scale), 96, 768); }
-    TRect outputRegion(const TRect &input) const override;
     TRect inputRegion(const TRect &output) const override {
         const int clean = (m_shrinks ? BlockShrink::Halo : 0) + (enlarges() ? m_deblur.halo() : 0);
         return Region::grown(resizeInput(Region::grown(output, resizedHalo())), clean);
     }
-    void run(const FloatTile &in, FloatTile &out, Scratch &scratch,
-             const std::stop_token &stop) const override;
+    QString run(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                const std::stop_token &stop) const override;
 
 private:
     bool enlarges() const { return m_scale >= 1; }
@@ -69,9 +60,6 @@ private:
     void finish(const FloatTile &resized, FloatTile &out, Scratch &scratch,
                 const std::stop_token &stop) const;
 
-    double m_scale;
-    QSize m_input;
-    QSize m_output;
     bool m_shrinks;
     float m_overshoot;
     Resampler m_horizontal;
@@ -80,17 +68,6 @@ private:
     LumaDeblur m_deblur;
     EdgeSharpen m_edges;
 };
-
-TRect EnhanceStage::outputRegion(const TRect &input) const {
-    const auto span = [](int from, int to, int size, int outSize) {
-        const auto edge = [&](int i) { return int((qint64(i) * outSize + size / 2) / size); };
-        const int first = std::min(edge(from), outSize - 1);
-        return std::pair(first, std::max(edge(to), first + 1));
-    };
-    const auto [left, right] = span(input.x, Region::right(input), m_input.width(), m_output.width());
-    const auto [top, bottom] = span(input.y, Region::bottom(input), m_input.height(), m_output.height());
-    return Region::fromEdges(left, top, right, bottom);
-}
 
 void EnhanceStage::limitRinging(const PlaneView &in, const PlaneView &out, Scratch &scratch) const {
     const Scratch::Scope scope(scratch);
@@ -108,27 +85,10 @@ void EnhanceStage::limitRinging(const PlaneView &in, const PlaneView &out, Scrat
     }
 }
 
-/// Colours weigh by their alpha, so that what lies behind transparent pixels doesn't bleed in.
 void EnhanceStage::resize(const FloatTile &in, const FloatTile &out, Scratch &scratch) const {
-    const auto eachRow = [](const PlaneView &plane, const PlaneView &alpha, auto change) {
-        for (int y = plane.area.y; y < Region::bottom(plane.area); ++y) {
-            float *p = plane.row(y);
-            const float *a = alpha.at(plane.area.x, y);
-            for (int x = 0; x < plane.area.width; ++x)
-                p[x] = change(p[x], std::max(LeastAlpha, a[x]));
-        }
-    };
-    const bool alpha = in.channels == 4;
-    for (int c = in.channels - 1; c >= 0; --c) {
-        const bool weighted = alpha && c < 3;
-        if (weighted)
-            eachRow(in.planes[c], in.planes[3], [](float v, float a) { return v * a; });
-        resample(m_horizontal, m_vertical, in.planes[c], out.planes[c], scratch);
-        if (weighted)
-            eachRow(out.planes[c], out.planes[3], [](float v, float a) { return v / a; });
-        else if (m_scale > 1)
-            limitRinging(in.planes[c], out.planes[c], scratch);
-    }
+    resampleTile(m_horizontal, m_vertical, in, out, scratch);
+    for (int c = in.channels == 4 ? 3 : 0; c < in.channels && m_scale > 1; ++c)
+        limitRinging(in.planes[c], out.planes[c], scratch);
 }
 
 void EnhanceStage::finish(const FloatTile &resized, FloatTile &out, Scratch &scratch,
@@ -145,8 +105,8 @@ void EnhanceStage::finish(const FloatTile &resized, FloatTile &out, Scratch &scr
     }
 }
 
-void EnhanceStage::run(const FloatTile &in, FloatTile &out, Scratch &scratch,
-                       const std::stop_token &stop) const {
+QString EnhanceStage::run(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                          const std::stop_token &stop) const {
     const TRect wanted = Region::grown(out.area, resizedHalo());
     const TRect deblurred = resizeInput(wanted);
     const TRect cleaned = Region::grown(deblurred, enlarges() ? m_deblur.halo() : 0);
@@ -157,7 +117,7 @@ void EnhanceStage::run(const FloatTile &in, FloatTile &out, Scratch &scratch,
         std::copy_n(clean.planes, 3, source.planes);
     }
     if (stop.stop_requested())
-        return;
+        return {};
     FloatTile sharp = FloatTile::make(scratch, deblurred, in.channels);
     if (enlarges()) {
         m_deblur.run(source.planes, sharp.planes, deblurred, scratch, stop);
@@ -170,11 +130,12 @@ void EnhanceStage::run(const FloatTile &in, FloatTile &out, Scratch &scratch,
         for (int y = deblurred.y; y < Region::bottom(deblurred); ++y)
             std::copy_n(in.planes[3].at(deblurred.x, y), deblurred.width, sharp.planes[3].row(y));
     if (stop.stop_requested())
-        return;
+        return {};
     const FloatTile resized = FloatTile::make(scratch, wanted, in.channels);
     resize(sharp, resized, scratch);
     if (!stop.stop_requested())
         finish(resized, out, scratch, stop);
+    return {};
 }
 
 Resampler::Kernel kernelOf(const QString &name) {
@@ -185,14 +146,12 @@ Resampler::Kernel kernelOf(const QString &name) {
 
 } // namespace
 
-std::unique_ptr<Stage> makeEnhanceStage(const FilterInput &input) {
+Made makeEnhanceStage(const FilterInput &input) {
     const FilterValues &values = input.values;
     const ModelDefinition &model = values.definition();
     EnhanceSettings s;
     s.scale = enhanceScale(values, input.size, input.log);
     s.input = input.size;
-    s.output = QSize(std::max(1, int(std::lround(input.size.width() * s.scale))),
-                     std::max(1, int(std::lround(input.size.height() * s.scale))));
     // What a model does by itself belongs to enlarging: at scale 1 the picture stays as it is.
     const double enlarging = std::clamp(s.scale - 1, 0.0, 1.0);
     const auto level = [&](const QString &role, const QString &most, const QString &always) {
@@ -218,7 +177,8 @@ std::unique_ptr<Stage> makeEnhanceStage(const FilterInput &input) {
     s.deblur.radius = std::clamp(int(std::ceil(3 * s.deblur.blur.extent)) + 2, 4, 12);
     s.edges.amount = float(enlarging * model.constant(QStringLiteral("edges"), 0));
     s.edges.step = std::max(1, int(std::lround(s.scale / 2)));
-    if (s.output == s.input && s.shrink.takesNothing() && s.deblur.blur.extent <= 0)
-        return nullptr;
-    return std::make_unique<EnhanceStage>(s);
+    auto stage = std::make_unique<EnhanceStage>(s);
+    if (stage->outputSize(s.input) == s.input && s.shrink.takesNothing() && s.deblur.blur.extent <= 0)
+        return {};
+    return {std::move(stage), {}};
 }

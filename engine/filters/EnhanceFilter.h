@@ -2,4 +2,4 @@
 
 #include "engine/filters/Filters.h"
 
-std::unique_ptr<Stage> makeEnhanceStage(const FilterInput &input);
+Made makeEnhanceStage(const FilterInput &input);

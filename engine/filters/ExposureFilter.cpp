@@ -22,7 +22,7 @@ public:
     QString name() const override { return QStringLiteral("Exposure Adjust"); }
     TRect inputRegion(const TRect &output) const override { return output; }
     double cost() const override { return 0.3; }
-    void run(const FloatTile &in, FloatTile &out, Scratch &, const std::stop_token &) const override {
+    QString run(const FloatTile &in, FloatTile &out, Scratch &, const std::stop_token &) const override {
         const float more = m_gain - 1;
         for (int y = out.area.y; y < Region::bottom(out.area); ++y) {
             const float *source[] = {in.planes[0].row(y), in.planes[1].row(y), in.planes[2].row(y)};
@@ -36,6 +36,7 @@ public:
                 }
             }
         }
+        return {};
     }
 
 private:
@@ -44,12 +45,12 @@ private:
 
 } // namespace
 
-std::unique_ptr<Stage> makeExposureStage(const FilterInput &input) {
+Made makeExposureStage(const FilterInput &input) {
     const double strength = input.values.number(QStringLiteral("strength"));
     const double median = std::clamp(double(input.statistics.lumaMedian), 0.02, 0.98);
     const double full = NaturalMedian / (1 - NaturalMedian) * (1 - median) / median;
     const double gain = std::pow(std::clamp(full, 1 / MaxGain, MaxGain), strength / FullStrength);
     if (strength == 0 || std::abs(gain - 1) < 1e-6)
-        return nullptr;
-    return std::make_unique<ExposureStage>(float(gain));
+        return {};
+    return {std::make_unique<ExposureStage>(float(gain)), {}};
 }

@@ -2,4 +2,4 @@
 
 #include "engine/filters/Filters.h"
 
-std::unique_ptr<Stage> makeExposureStage(const FilterInput &input);
+Made makeExposureStage(const FilterInput &input);

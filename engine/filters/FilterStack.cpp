@@ -53,12 +53,16 @@ bool hasEnabledFilter(const ProcRequest &request) {
 }
 
 QString buildFilterStack(const ProcRequest &request, const ModelCatalogue &catalogue,
-                         const ImageStatistics &statistics, StageChain &chain) {
+                         const ImageStatistics &statistics, NetworkStore &networks, StageChain &chain) {
     RunLog log;
     for (const QString &name : request.filterOrder) {
         const FilterRecord record = readRecord(name, request.params);
         if (!record.enabled)
             continue;
+        const QString problem = catalogue.problem(record.category, record.model);
+        if (!problem.isEmpty())
+            return QStringLiteral("The %1 model \"%2\" cannot be used: %3")
+                .arg(record.category, record.model, problem);
         if (!catalogue.hasCategory(record.category)) {
             if (!knownCategories().contains(record.category))
                 return QStringLiteral("There is no filter \"%1\"").arg(record.category);
@@ -73,8 +77,11 @@ QString buildFilterStack(const ProcRequest &request, const ModelCatalogue &catal
             log.inform(
                 QStringLiteral("Subjects cannot be told apart yet: %1 works on the whole picture").arg(name));
         const FilterValues values(name, *definition, record.params, log);
-        if (auto stage = Filters::make({values, statistics, chain.outputSize(), log}))
-            chain.append(std::move(stage), values.key());
+        Made made = Filters::make({values, statistics, chain.outputSize(), networks, log});
+        if (!made.error.isEmpty())
+            return made.error;
+        if (made.stage)
+            chain.append(std::move(made.stage), values.key());
     }
     return {};
 }

@@ -3,6 +3,9 @@
 #include "engine/filters/DenoiseFilter.h"
 #include "engine/filters/EnhanceFilter.h"
 #include "engine/filters/ExposureFilter.h"
+#include "engine/filters/NetworkChoice.h"
+#include "engine/filters/NetworkEnhanceFilter.h"
+#include "engine/filters/RestoreFilter.h"
 #include "engine/filters/SharpenFilter.h"
 #include "engine/filters/WhiteBalanceFilter.h"
 
@@ -10,31 +13,41 @@
 
 namespace {
 
-using Make = std::unique_ptr<Stage> (*)(const FilterInput &);
+using Make = Made (*)(const FilterInput &);
 
+/// By kind and operation.
 const QHash<QString, Make> &operations() {
     static const QHash<QString, Make> table = {
-        {QStringLiteral("denoise"), makeDenoiseStage},
-        {QStringLiteral("sharpen"), makeSharpenStage},
-        {QStringLiteral("enhance"), makeEnhanceStage},
-        {QStringLiteral("exposure"), makeExposureStage},
-        {QStringLiteral("whiteBalance"), makeWhiteBalanceStage},
+        {QStringLiteral("classical/denoise"), makeDenoiseStage},
+        {QStringLiteral("classical/sharpen"), makeSharpenStage},
+        {QStringLiteral("classical/enhance"), makeEnhanceStage},
+        {QStringLiteral("classical/exposure"), makeExposureStage},
+        {QStringLiteral("classical/whiteBalance"), makeWhiteBalanceStage},
+        {QStringLiteral("network/denoise"), makeRestoreStage},
+        {QStringLiteral("network/sharpen"), makeRestoreStage},
+        {QStringLiteral("network/enhance"), makeNetworkEnhanceStage},
     };
     return table;
 }
 
-} // namespace
-
-bool Filters::supports(const ModelDefinition &definition, QString *why) {
-    if (definition.kind != QStringLiteral("classical"))
-        *why = QStringLiteral("this version runs no models of kind \"%1\"").arg(definition.kind);
-    else if (!operations().contains(definition.operation))
-        *why = QStringLiteral("there is no operation \"%1\"").arg(definition.operation);
-    else
-        return true;
-    return false;
+QString keyOf(const ModelDefinition &definition) {
+    return definition.kind + QLatin1Char('/') + definition.operation;
 }
 
-std::unique_ptr<Stage> Filters::make(const FilterInput &input) {
-    return operations().value(input.values.definition().operation)(input);
+} // namespace
+
+bool Filters::supports(const ModelDefinition &definition, NetworkStore &networks, QString *why) {
+    if (!operations().contains(keyOf(definition)))
+        *why = QStringLiteral("this version has no operation \"%1\" of kind \"%2\"")
+                   .arg(definition.operation, definition.kind);
+    else
+        *why = NetworkChoice::problem(definition);
+    for (const NetworkDefinition &network : definition.networks)
+        if (why->isEmpty())
+            networks.get(network, why);
+    return why->isEmpty();
+}
+
+Made Filters::make(const FilterInput &input) {
+    return operations().value(keyOf(input.values.definition()))(input);
 }

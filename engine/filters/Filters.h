@@ -3,6 +3,7 @@
 #include "engine/analysis/ImageStatistics.h"
 #include "engine/core/Stage.h"
 #include "engine/filters/FilterValues.h"
+#include "engine/inference/NetworkStore.h"
 
 /// What a filter may know when it prepares its tables. `size` is that of its input; the statistics
 /// are those of the picture as it was opened.
@@ -10,15 +11,22 @@ struct FilterInput {
     const FilterValues &values;
     const ImageStatistics &statistics;
     QSize size;
+    NetworkStore &networks;
     RunLog &log;
+};
+
+/// A stage, an error text, or neither when the settings ask for no change.
+struct Made {
+    std::unique_ptr<Stage> stage{};
+    QString error{};
 };
 
 /// The one place that knows which operation runs which filter.
 namespace Filters {
 
-bool supports(const ModelDefinition &definition, QString *why);
+/// Whether the engine can run a model: its operation, and its weight files, which are loaded.
+bool supports(const ModelDefinition &definition, NetworkStore &networks, QString *why);
 
-/// Null when the settings ask for no change.
-std::unique_ptr<Stage> make(const FilterInput &input);
+Made make(const FilterInput &input);
 
 } // namespace Filters

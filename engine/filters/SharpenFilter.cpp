@@ -20,16 +20,17 @@ public:
         return Region::grown(output, m_deblur.halo() + (m_shrinks ? BlockShrink::Halo : 0));
     }
     double cost() const override { return m_shrinks ? 7 : 3; }
-    void run(const FloatTile &in, FloatTile &out, Scratch &scratch,
-             const std::stop_token &stop) const override {
+    QString run(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                const std::stop_token &stop) const override {
         if (!m_shrinks) {
             m_deblur.run(in.planes, out.planes, out.area, scratch, stop);
-            return;
+            return {};
         }
         const FloatTile clean = FloatTile::make(scratch, Region::grown(out.area, m_deblur.halo()), 3);
         m_shrink.run(in.planes, clean.planes, clean.area, scratch, stop);
         if (!stop.stop_requested())
             m_deblur.run(clean.planes, out.planes, out.area, scratch, stop);
+        return {};
     }
 
 private:
@@ -51,7 +52,7 @@ int supportOf(const BlurShape &blur) {
 
 } // namespace
 
-std::unique_ptr<Stage> makeSharpenStage(const FilterInput &input) {
+Made makeSharpenStage(const FilterInput &input) {
     const FilterValues &values = input.values;
     const ModelDefinition &model = values.definition();
     const bool lens = values.flag(QStringLiteral("lens"));
@@ -73,6 +74,6 @@ std::unique_ptr<Stage> makeSharpenStage(const FilterInput &input) {
     deblur.noise = double(input.statistics.lumaNoise) * model.constant(QStringLiteral("noiseWeight"), 1);
     deblur.remaining = shrink.takesNothing() ? deblur.noise : std::max(0.0, deblur.noise - denoise);
     if (deblur.blur.extent <= 0 && shrink.takesNothing())
-        return nullptr;
-    return std::make_unique<SharpenStage>(shrink, deblur);
+        return {};
+    return {std::make_unique<SharpenStage>(shrink, deblur), {}};
 }

@@ -2,4 +2,4 @@
 
 #include "engine/filters/Filters.h"
 
-std::unique_ptr<Stage> makeSharpenStage(const FilterInput &input);
+Made makeSharpenStage(const FilterInput &input);

@@ -52,7 +52,7 @@ public:
     QString name() const override { return QStringLiteral("White Balance Adjust"); }
     TRect inputRegion(const TRect &output) const override { return output; }
     double cost() const override { return 0.3; }
-    void run(const FloatTile &in, FloatTile &out, Scratch &, const std::stop_token &) const override {
+    QString run(const FloatTile &in, FloatTile &out, Scratch &, const std::stop_token &) const override {
         for (int y = out.area.y; y < Region::bottom(out.area); ++y) {
             const float *source[] = {in.planes[0].row(y), in.planes[1].row(y), in.planes[2].row(y)};
             for (int x = 0; x < out.area.width; ++x) {
@@ -66,6 +66,7 @@ public:
                 }
             }
         }
+        return {};
     }
 
 private:
@@ -75,11 +76,11 @@ private:
 
 } // namespace
 
-std::unique_ptr<Stage> makeWhiteBalanceStage(const FilterInput &input) {
+Made makeWhiteBalanceStage(const FilterInput &input) {
     const double opacity = input.values.number(QStringLiteral("opacity"));
     const double warmth = 2 * input.values.number(QStringLiteral("temperature")) - 1;
     if (opacity <= 0)
-        return nullptr;
+        return {};
     const auto &light = input.statistics.illuminant;
     const double shift = std::pow(WarmestGain, warmth);
     std::array<double, 3> gains = {shift, 1, 1 / shift};
@@ -88,5 +89,5 @@ std::unique_ptr<Stage> makeWhiteBalanceStage(const FilterInput &input) {
     const double brightness = 0.2126 * gains[0] + 0.7152 * gains[1] + 0.0722 * gains[2];
     for (double &gain : gains)
         gain = std::pow(gain / brightness, Encoding);
-    return std::make_unique<WhiteBalanceStage>(gains, float(opacity));
+    return {std::make_unique<WhiteBalanceStage>(gains, float(opacity)), {}};
 }

@@ -2,4 +2,4 @@
 
 #include "engine/filters/Filters.h"
 
-std::unique_ptr<Stage> makeWhiteBalanceStage(const FilterInput &input);
+Made makeWhiteBalanceStage(const FilterInput &input);

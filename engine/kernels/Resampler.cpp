@@ -39,6 +39,8 @@ double Resampler::kernel(double x) const {
     switch (m_kernel) {
     case Kernel::CatmullRom:
         return cubic(x, 0, 0.5);
+    case Kernel::SharpCubic:
+        return cubic(x, 0, 0.75);
     case Kernel::Mitchell:
         return cubic(x, 1.0 / 3, 1.0 / 3);
     case Kernel::Lanczos3:

@@ -25,6 +25,12 @@ QByteArray definition(const QByteArray &model, const QByteArray &parameters = "{
            R"(", "kind": "classical", "operation": "denoise", "parameters": )" + parameters + "}";
 }
 
+QByteArray network(const QByteArray &entry) {
+    return R"({"category": "Denoise", "model": "A", "kind": "network", "operation": "denoise",
+               "parameters": {"p": {"role": "strength"}}, "networks": [)" +
+           entry + "]}";
+}
+
 } // namespace
 
 /// Every name that the program's controls write is there, with the value it starts from.
@@ -119,6 +125,19 @@ TEST(Catalogue, DamagedFilesAreSkipped) {
         {"kind", definition("A").replace("classical", "magic")},
         {"operation", definition("A").replace("\"denoise\"", "\"polish\"")},
         {"second-good", definition("Good")},
+        {"no-networks", network("")},
+        {"no-file", network(R"({"halo": 8, "conditions": [{}]})")},
+        {"no-halo", network(R"({"file": "n.onnx", "conditions": [{}]})")},
+        {"halo", network(R"({"file": "n.onnx", "halo": 1e9, "conditions": [{}]})")},
+        {"scale", network(R"({"file": "n.onnx", "halo": 8, "scale": 3, "conditions": [{}]})")},
+        {"tile", network(R"({"file": "n.onnx", "halo": 8, "tile": 0.5, "conditions": [{}]})")},
+        {"no-conditions", network(R"({"file": "n.onnx", "halo": 8})")},
+        {"condition", network(R"({"file": "n.onnx", "halo": 8, "conditions": ["noise"]})")},
+        {"weight", network(R"({"file": "n.onnx", "halo": 8, "conditions": [{"strength": 1e99}]})")},
+        {"role", network(R"({"file": "n.onnx", "halo": 8, "conditions": [{"valour": 1}]})")},
+        {"flag", network(R"({"file": "n.onnx", "halo": 8, "when": {"moon": true}, "conditions": [{}]})")},
+        {"outside", network(R"({"file": "../../n.onnx", "halo": 8, "conditions": [{}]})")},
+        {"absolute", network(R"({"file": "/dev/zero", "halo": 8, "conditions": [{}]})")},
     };
     QTemporaryDir dir;
     write(dir.filePath(u"denoise/a-good.json"_s),

@@ -168,9 +168,9 @@ std::string Pictures::mismatch(const ImageData &part, const ImageData &whole, in
     return {};
 }
 
-Engine::Engine(const EngineOptions &options)
+Engine::Engine(const EngineOptions &options, const QString &models)
     : backend(makeEngineBackend(options)) {
-    catalogue = backend->catalogue(QStringLiteral(ORVANE_MODELS));
+    catalogue = backend->catalogue(models);
 }
 
 ProcRequest Engine::request(const ImageRef &image) {

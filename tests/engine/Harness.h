@@ -38,7 +38,7 @@ std::string mismatch(const ImageData &part, const ImageData &whole, int x, int y
 } // namespace Pictures
 
 struct Engine {
-    explicit Engine(const EngineOptions &options = {});
+    explicit Engine(const EngineOptions &options = {}, const QString &models = QStringLiteral(ORVANE_MODELS));
 
     /// One filter over the whole picture, or over `region`.
     ProcResult run(const ImageRef &image, const QString &category, const QString &model,
@@ -62,6 +62,9 @@ struct ModelCase {
     std::string label() const { return (category + u'/' + model).toStdString(); }
 };
 std::vector<ModelCase> everyModel(const QVariantMap &catalogue);
+
+/// What this program wrote to std::cerr so far; main() keeps it.
+std::string cerrText();
 
 /// The lines logged between construction and lines().
 class LogCapture {

@@ -1,9 +1,28 @@
+#include "Harness.h"
+
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
+#include <iostream>
+#include <sstream>
+
+namespace {
+
+std::ostringstream written;
+
+} // namespace
+
+std::string cerrText() {
+    return written.str();
+}
+
 int main(int argc, char **argv) {
     ::testing::InitGoogleTest(&argc, argv);
     const QCoreApplication application(argc, argv);
-    return RUN_ALL_TESTS();
+    std::streambuf *const before = std::cerr.rdbuf(written.rdbuf());
+    const int failed = RUN_ALL_TESTS();
+    std::cerr.rdbuf(before);
+    std::cerr << cerrText();
+    return failed;
 }

@@ -1,0 +1,117 @@
+#include "engine/filters/NetworkEnhanceFilter.h"
+
+#include "engine/filters/EnhanceSize.h"
+#include "engine/filters/NetworkChoice.h"
+#include "engine/filters/ResizeStage.h"
+#include "engine/kernels/HiddenColour.h"
+#include "engine/kernels/TileResize.h"
+
+#include <cmath>
+
+namespace {
+
+/// Mostly the network's step on the input, then a resize to the size asked for. A network of step 1
+/// comes behind a reduction, where it works on the pixels that are seen, and on fewer.
+class NetworkEnhanceStage final : public ResizeStage {
+public:
+    NetworkEnhanceStage(double scale, const QSize &input, std::optional<NetworkPass> pass)
+        : ResizeStage(scale, input)
+        , m_pass(std::move(pass))
+        , m_step(networkLeads() ? m_pass->scale() : 1)
+        , m_horizontal(kernel(), input.width() * m_step, m_output.width())
+        , m_vertical(kernel(), input.height() * m_step, m_output.height())
+        , m_alphaHorizontal(Resampler::Kernel::CatmullRom, input.width(), m_output.width())
+        , m_alphaVertical(Resampler::Kernel::CatmullRom, input.height(), m_output.height()) {}
+
+    double cost() const override { return 2 + 20 / (m_scale * m_scale); }
+    int tileSide() const override {
+        const int side = m_pass ? m_pass->tileSide() : Stage::tileSide();
+        return networkLeads() ? std::clamp(int(side * m_scale), 96, 2048) : side;
+    }
+    TRect inputRegion(const TRect &output) const override;
+    QString run(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                const std::stop_token &stop) const override;
+
+private:
+    Resampler::Kernel kernel() const {
+        return m_scale > m_step ? Resampler::Kernel::CatmullRom : Resampler::Kernel::Lanczos3;
+    }
+    bool resizes() const { return m_output != m_input * m_step; }
+    TRect resizeInput(const TRect &output) const;
+    bool networkLeads() const { return m_pass && (m_scale >= 1 || m_pass->scale() > 1); }
+    QString stepAndResize(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                          const std::stop_token &stop) const;
+    QString resizeAndStep(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                          const std::stop_token &stop) const;
+
+    std::optional<NetworkPass> m_pass;
+    int m_step;
+    Resampler m_horizontal;
+    Resampler m_vertical;
+    Resampler m_alphaHorizontal;
+    Resampler m_alphaVertical;
+};
+
+TRect NetworkEnhanceStage::resizeInput(const TRect &output) const {
+    if (!resizes())
+        return output;
+    const auto x = m_horizontal.inputSpan(output.x, Region::right(output) - 1);
+    const auto y = m_vertical.inputSpan(output.y, Region::bottom(output) - 1);
+    return {x.first, y.first, x.count, y.count};
+}
+
+TRect NetworkEnhanceStage::inputRegion(const TRect &output) const {
+    if (!m_pass)
+        return resizeInput(output);
+    return networkLeads() ? Region::grown(m_pass->inputArea(resizeInput(output)), HiddenColour::Radius)
+                          : resizeInput(m_pass->inputArea(output));
+}
+
+QString NetworkEnhanceStage::stepAndResize(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                                           const std::stop_token &stop) const {
+    FloatTile source = in;
+    if (in.channels == 4) {
+        source = FloatTile::make(scratch, Region::grown(in.area, -HiddenColour::Radius), 3);
+        HiddenColour::fill(in, source, scratch);
+        resample(m_alphaHorizontal, m_alphaVertical, in.planes[3], out.planes[3], scratch);
+    }
+    if (!resizes())
+        return m_pass->run(source.planes, out.planes, scratch, stop);
+    const FloatTile large = FloatTile::make(scratch, resizeInput(out.area), 3);
+    const QString error = m_pass->run(source.planes, large.planes, scratch, stop);
+    for (int c = 0; c < 3 && error.isEmpty() && !stop.stop_requested(); ++c)
+        resample(m_horizontal, m_vertical, large.planes[c], out.planes[c], scratch);
+    return error;
+}
+
+QString NetworkEnhanceStage::resizeAndStep(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                                           const std::stop_token &stop) const {
+    if (!m_pass) {
+        resampleTile(m_horizontal, m_vertical, in, out, scratch);
+        return {};
+    }
+    const FloatTile small = FloatTile::make(scratch, m_pass->inputArea(out.area), in.channels);
+    resampleTile(m_horizontal, m_vertical, in, small, scratch);
+    for (int y = out.area.y; y < Region::bottom(out.area) && in.channels == 4; ++y)
+        std::copy_n(small.planes[3].at(out.area.x, y), out.area.width, out.planes[3].row(y));
+    return m_pass->run(small.planes, out.planes, scratch, stop);
+}
+
+QString NetworkEnhanceStage::run(const FloatTile &in, FloatTile &out, Scratch &scratch,
+                                 const std::stop_token &stop) const {
+    return networkLeads() ? stepAndResize(in, out, scratch, stop) : resizeAndStep(in, out, scratch, stop);
+}
+
+} // namespace
+
+Made makeNetworkEnhanceStage(const FilterInput &input) {
+    const double scale = enhanceScale(input.values, input.size, input.log);
+    NetworkChoice::Choice choice = NetworkChoice::make(input, std::max(1.0, scale));
+    if (!choice.error.isEmpty())
+        return {nullptr, choice.error};
+    const bool same = !choice.pass;
+    auto stage = std::make_unique<NetworkEnhanceStage>(scale, input.size, std::move(choice.pass));
+    if (same && stage->outputSize(input.size) == input.size)
+        return {};
+    return {std::move(stage), {}};
+}
