@@ -1,10 +1,10 @@
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
 // A button with an icon, a text, or both. Space, Return and Enter press it. A click leaves the keyboard
 // where it was, so that a program's shortcuts go on working; Tab reaches it.
-AbstractButton {
+T.AbstractButton {
     id: _top
 
     enum Type { Primary, Secondary, Tertiary, Duotone, Warning, Destructive }

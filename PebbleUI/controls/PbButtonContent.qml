@@ -42,7 +42,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
         }
 
-        PbLabel {
+        PbText {
             id: _label
             visible: text !== ""
             text: _top.text
@@ -51,7 +51,6 @@ Item {
             width: _top._textSpace
             horizontalAlignment: _top.center ? Text.AlignHCenter : Text.AlignLeft
             anchors.verticalCenter: parent.verticalCenter
-            Accessible.ignored: true
         }
     }
 }

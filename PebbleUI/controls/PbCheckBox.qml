@@ -1,8 +1,8 @@
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
-CheckBox {
+T.CheckBox {
     id: _top
 
     property real indicatorSize: PebbleStyle.size.indicator
@@ -45,12 +45,11 @@ CheckBox {
         }
     }
 
-    contentItem: PbLabel {
+    contentItem: PbText {
         leftPadding: _top.indicatorSize + (text !== "" ? _top.spacing : 0)
         type: _top.labelType
         text: _top.text
         enabled: _top.enabled
-        Accessible.ignored: true
     }
 
     PbHoverTip {

@@ -1,12 +1,12 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
 // A choice of one among rows: `{ text, value, secondary }` under the roles named, or plain values. Return,
 // Enter, F4 and Alt with an arrow open the list. Space is swallowed: programs use it as a shortcut.
-ComboBox {
+T.ComboBox {
     id: _top
 
     enum Outline { None, Warning, Error }

@@ -22,7 +22,7 @@ Item {
         color: _label.color
     }
 
-    PbLabel {
+    PbText {
         id: _label
         x: _top.iconSource.toString() !== "" ? _top.iconSize + PebbleStyle.size.spacing : 0
         width: _top.width - x
@@ -31,6 +31,5 @@ Item {
         horizontalAlignment: _top.textAlignment
         elide: _top.textElide
         enabled: _top.enabled
-        Accessible.ignored: true
     }
 }

@@ -1,12 +1,12 @@
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
 // The list under a choice. It stays within the window and scrolls when it would be longer.
-Popup {
+T.Popup {
     id: _top
 
-    required property ComboBox box
+    required property T.ComboBox box
 
     y: box.height + PebbleStyle.size.spacingTiny
     width: box.width
@@ -28,7 +28,7 @@ Popup {
         Accessible.role: Accessible.List
         Accessible.name: _top.box.Accessible.name
 
-        ScrollBar.vertical: PbScrollBar {}
+        T.ScrollBar.vertical: PbScrollBar {}
     }
 
     background: Rectangle {

@@ -1,10 +1,10 @@
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
 // One row of a choice's list: a check box or Autopilot's dot where there are such, the text, and a second
 // text at the right. A long text gives way before the second one does, up to half of the row.
-ItemDelegate {
+T.ItemDelegate {
     id: _top
 
     property string secondary: ""
@@ -66,7 +66,7 @@ ItemDelegate {
             }
         }
 
-        PbLabel {
+        PbText {
             id: _text
             x: _mark.width > 0 ? _mark.width + PebbleStyle.size.spacing : 0
             width: _second.x - x - (_second.width > 0 ? PebbleStyle.size.spacing : 0)
@@ -74,10 +74,9 @@ ItemDelegate {
             text: _top.text
             type: _top.current && !_top.withCheck ? PbLabel.Type.Title : PbLabel.Type.Body
             color: _top._ink
-            Accessible.ignored: true
         }
 
-        PbLabel {
+        PbText {
             id: _second
             objectName: "secondary"
             anchors.right: parent.right
@@ -85,7 +84,6 @@ ItemDelegate {
             height: parent.height
             text: _top.secondary
             color: PebbleStyle.color.lighterGray
-            Accessible.ignored: true
         }
     }
 }

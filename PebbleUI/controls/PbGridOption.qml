@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
 // One option of a grid: icon and text, with a "Beta" badge, a value and Autopilot's dot where wanted.
-AbstractButton {
+T.AbstractButton {
     id: _top
 
     // One of PbButton.Type; gives the colours.

@@ -1,10 +1,10 @@
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
 // A horizontal slider from 0 to 100. A double press on the handle, or Delete or Backspace, resets it: to
 // Autopilot's value if that is in range, else to the default one.
-Slider {
+T.Slider {
     id: _top
 
     // Minus infinity means unset. An unset default takes the first value.
@@ -32,7 +32,7 @@ Slider {
     from: 0
     to: 100
     stepSize: 1
-    snapMode: Slider.SnapAlways
+    snapMode: T.Slider.SnapAlways
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     padding: 0

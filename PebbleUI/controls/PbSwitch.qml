@@ -1,8 +1,8 @@
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
-Switch {
+T.Switch {
     id: _top
 
     property real indicatorSize: PebbleStyle.size.indicator
@@ -51,12 +51,11 @@ Switch {
         }
     }
 
-    contentItem: PbLabel {
+    contentItem: PbText {
         leftPadding: _top.indicator.width + (text !== "" ? _top.spacing : 0)
         type: _top.labelType
         text: _top.text
         enabled: _top.enabled
-        Accessible.ignored: true
     }
 
     PbHoverTip {

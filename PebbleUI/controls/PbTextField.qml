@@ -1,12 +1,12 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
 // One line of text or a number. Numbers are written with a point, stepped with Up and Down, and selected
 // whole when the field gets the keyboard.
-TextField {
+T.TextField {
     id: _top
 
     enum Type { Text, Integer, Real }
@@ -35,6 +35,7 @@ TextField {
     topPadding: 0
     bottomPadding: 0
     horizontalAlignment: _private.isNumber ? TextInput.AlignRight : TextInput.AlignLeft
+    renderType: TextInput.NativeRendering
     verticalAlignment: TextInput.AlignVCenter
     inputMethodHints: _private.isNumber ? Qt.ImhFormattedNumbersOnly : Qt.ImhNone
     selectByMouse: true
@@ -96,6 +97,16 @@ TextField {
             remove(selectionStart, selectionEnd);
             insert(cursorPosition, ".");
         }
+    }
+
+    PbText {
+        x: _top.leftPadding
+        width: _top.width - _top.leftPadding - _top.rightPadding
+        height: _top.height
+        visible: _top.length === 0 && _top.preeditText === ""
+        text: _top.placeholderText
+        color: _top.placeholderTextColor
+        horizontalAlignment: _top.horizontalAlignment
     }
 
     IntValidator {

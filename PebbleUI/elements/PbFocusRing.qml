@@ -15,7 +15,8 @@ Rectangle {
     property real targetRadius: PebbleStyle.size.smallRadius
 
     readonly property real _outset: PebbleStyle.size.focusRingGap + PebbleStyle.size.focusRing
-    readonly property bool _byKeyboard: {
+
+    function _byKeyboard(): bool {
         const control = target as T.Control;
         return control !== null && control.visualFocus;
     }
@@ -26,6 +27,6 @@ Rectangle {
     color: PebbleStyle.color.clear
     border.width: PebbleStyle.size.focusRing
     border.color: PebbleStyle.color.focusRing
-    visible: target.activeFocus && (always || _byKeyboard)
+    visible: target.activeFocus && (always || _byKeyboard())
     z: 1
 }

@@ -2,4 +2,5 @@
 list(APPEND PEBBLE_QML
   elements/PbFocusRing.qml
   elements/PbIcon.qml
+  elements/PbText.qml
 )

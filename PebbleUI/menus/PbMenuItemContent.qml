@@ -29,10 +29,9 @@ RowLayout {
         color: _top.color
     }
 
-    PbLabel {
+    PbText {
         text: _top.text
         color: _top.color
-        Accessible.ignored: true
         Layout.fillWidth: true
     }
 
@@ -40,12 +39,11 @@ RowLayout {
         visible: _top.autoSuggested
     }
 
-    PbLabel {
+    PbText {
         visible: text !== ""
         text: _top.keyText
         type: PbLabel.Type.Label
         color: _top.enabled ? PebbleStyle.color.lightGray : _top.color
         elide: Text.ElideNone
-        Accessible.ignored: true
     }
 }

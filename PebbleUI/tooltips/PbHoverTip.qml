@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import PebbleUI
@@ -20,13 +22,20 @@ Item {
     property real offsetY: 0
     property Item plane: PebbleStyle.tooltipPlane
     property bool hugContents: false
-    readonly property alias hovered: _hover.hovered
+    readonly property bool hovered: _hover?.hovered ?? false
 
     // The control whose keyboard focus shows the tip too.
     property Item focusTarget: parent
 
     readonly property bool _filled: title !== "" || text !== ""
-    readonly property bool _focused: {
+    readonly property bool _wanted: _filled && visible && (hovered || _focused())
+
+    // Made when there is something to show: most controls of a panel have no tip.
+    property HoverHandler _hover: null
+    property PbTooltipPlane _shownIn: null
+    property int _tipId: -1
+
+    function _focused(): bool {
         const control = focusTarget as T.Control;
         if (control !== null)
             return control.visualFocus;
@@ -34,47 +43,46 @@ Item {
         return field !== null && field.activeFocus
             && (field.focusReason === Qt.TabFocusReason || field.focusReason === Qt.BacktabFocusReason);
     }
-    readonly property bool _wanted: _filled && visible && (hovered || _focused)
+
+    function _update(): void {
+        _hide();
+        // The texts are asked once more: they may have emptied a moment before `_wanted` follows.
+        if (!_wanted || (title === "" && text === ""))
+            return;
+        _shownIn = plane as PbTooltipPlane;
+        if (!_shownIn) {
+            console.warn("PbHoverTip configured without tooltip plane!!");
+            return;
+        }
+        _tipId = _shownIn.showTip({
+            target: target, targetForX: targetForX, targetForY: targetForY,
+            title: title, text: text, textFormat: textFormat, alignment: alignment,
+            offsetX: offsetX, offsetY: offsetY, hugContents: hugContents,
+        });
+    }
+
+    function _hide(): void {
+        _shownIn?.hideTip(_tipId);
+        _shownIn = null;
+    }
 
     anchors.fill: parent
     enabled: false
 
-    on_WantedChanged: _private.update()
-    onTitleChanged: _private.update()
-    onTextChanged: _private.update()
-    Component.onDestruction: _private.hide()
-
-    HoverHandler {
-        id: _hover
-        enabled: _top._filled
+    on_FilledChanged: {
+        if (_filled && !_hover)
+            _hover = _handler.createObject(_top) as HoverHandler;
     }
+    on_WantedChanged: _update()
+    onTitleChanged: _update()
+    onTextChanged: _update()
+    Component.onDestruction: _hide()
 
-    QtObject {
-        id: _private
+    Component {
+        id: _handler
 
-        property PbTooltipPlane shownIn: null
-        property int tipId: -1
-
-        function update(): void {
-            hide();
-            // The texts are asked once more: they may have emptied a moment before `_wanted` follows.
-            if (!_top._wanted || (_top.title === "" && _top.text === ""))
-                return;
-            shownIn = _top.plane as PbTooltipPlane;
-            if (!shownIn) {
-                console.warn("PbHoverTip configured without tooltip plane!!");
-                return;
-            }
-            tipId = shownIn.showTip({
-                target: _top.target, targetForX: _top.targetForX, targetForY: _top.targetForY,
-                title: _top.title, text: _top.text, textFormat: _top.textFormat, alignment: _top.alignment,
-                offsetX: _top.offsetX, offsetY: _top.offsetY, hugContents: _top.hugContents,
-            });
-        }
-
-        function hide(): void {
-            shownIn?.hideTip(tipId);
-            shownIn = null;
+        HoverHandler {
+            enabled: _top._filled
         }
     }
 }

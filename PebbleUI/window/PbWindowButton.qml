@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Controls.Fusion
+import QtQuick.Templates as T
 import PebbleUI
 
 // One of a window's own buttons: an icon without a text.
-AbstractButton {
+T.AbstractButton {
     id: _top
 
     required property url iconSource

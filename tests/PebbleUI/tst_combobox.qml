@@ -144,7 +144,7 @@ TestCase {
         compare(findChild(rowOf(box, 0), "secondary").text, "10 %");
         compare(findChild(rowOf(box, 1), "secondary").width, 0);
         const row = rowOf(box, 2);
-        const label = row.contentItem.children.find(child => child instanceof PbLabel);
+        const label = row.contentItem.children.find(child => child instanceof PbText);
         verify(label.truncated);
         verify(label.x + label.width < findChild(row, "secondary").x);
     }
