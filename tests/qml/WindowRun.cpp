@@ -3,25 +3,36 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QThread>
 
+#include <filesystem>
+#include <system_error>
+
 using namespace Qt::StringLiterals;
 
 WindowRun::WindowRun() {
-    for (const char *folder : {"config", "data", "share", "run", "tmp", "pictures"})
-        QDir(m_home.path()).mkpath(QLatin1String(folder));
+    const QDir home(m_home.path());
+    for (const char *folder : {"config", "data", "run", "tmp", "pictures", "bin", "share/orvane-studio"})
+        home.mkpath(QLatin1String(folder));
+    // An installation of its own, since logs and the session list stand beside the models.
+    std::error_code failed;
+    std::filesystem::create_hard_link(ORVANE_STUDIO, program().toStdString(), failed);
+    EXPECT_TRUE(!failed || QFile::copy(QStringLiteral(ORVANE_STUDIO), program()));
+    for (const QString &data : {u"models"_s, u"filterData"_s})
+        QFile::link(QStringLiteral(ORVANE_DATA "/") + data, home.filePath(u"share/orvane-studio/"_s + data));
+
     QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
-    const auto below = [this](QLatin1StringView name) { return m_home.filePath(name); };
-    surroundings.insert(u"HOME"_s, m_home.path());
-    surroundings.insert(u"XDG_CONFIG_HOME"_s, below("config"_L1));
-    surroundings.insert(u"XDG_DATA_HOME"_s, below("data"_L1));
-    surroundings.insert(u"XDG_DATA_DIRS"_s, below("share"_L1));
-    surroundings.insert(u"XDG_RUNTIME_DIR"_s, below("run"_L1));
-    surroundings.insert(u"TMPDIR"_s, below("tmp"_L1));
-    QFile::setPermissions(below("run"_L1), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    surroundings.insert(u"HOME"_s, home.path());
+    surroundings.insert(u"XDG_CONFIG_HOME"_s, home.filePath(u"config"_s));
+    surroundings.insert(u"XDG_DATA_HOME"_s, home.filePath(u"data"_s));
+    surroundings.insert(u"XDG_DATA_DIRS"_s, home.filePath(u"data"_s));
+    surroundings.insert(u"XDG_RUNTIME_DIR"_s, home.filePath(u"run"_s));
+    surroundings.insert(u"TMPDIR"_s, home.filePath(u"tmp"_s));
+    QFile::setPermissions(home.filePath(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_process.setProcessEnvironment(surroundings);
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.setStandardOutputFile(m_home.filePath(u"console.txt"_s));
@@ -30,8 +41,7 @@ WindowRun::WindowRun() {
 WindowRun::~WindowRun() {
     if (HasFailure())
         qWarning().noquote() << log().right(6000);
-    m_process.kill();
-    m_process.waitForFinished(5000);
+    kill();
 }
 
 QString WindowRun::picture(const QString &name, int width, int height) const {
@@ -46,13 +56,15 @@ QString WindowRun::picture(const QString &name, int width, int height) const {
                            channel((x / 40 + y / 40) % 2 ? 160 : 90));
         }
     }
-    const QString path = m_home.filePath(u"pictures/"_s + name);
+    const QString path = below(name);
+    QDir().mkpath(QFileInfo(path).path());
     EXPECT_TRUE(image.save(path));
     return path;
 }
 
 QString WindowRun::file(const QString &name, const QByteArray &content) const {
-    QFile out(m_home.filePath(u"pictures/"_s + name));
+    QFile out(below(name));
+    QDir().mkpath(QFileInfo(out).path());
     EXPECT_TRUE(out.open(QFile::WriteOnly));
     out.write(content);
     return out.fileName();
@@ -70,10 +82,38 @@ QVariant WindowRun::setting(const QString &key) const {
     return QSettings(settingsFile(), QSettings::IniFormat).value(key);
 }
 
+QString WindowRun::sessionFile() const {
+    return m_home.filePath(u"share/orvane-studio/Logs/lastSessionFiles.txt"_s);
+}
+
+QStringList WindowRun::session() const {
+    QFile list(sessionFile());
+    return list.open(QFile::ReadOnly) ? QString::fromUtf8(list.readAll()).split(u'\n', Qt::SkipEmptyParts)
+                                      : QStringList();
+}
+
+QString WindowRun::program() const {
+    return m_home.filePath(u"bin/orvane-studio"_s);
+}
+
 void WindowRun::start(const QStringList &arguments) {
-    // The log's lines wait in the stream's buffer otherwise.
-    m_process.start(u"stdbuf"_s, QStringList{u"-oL"_s, QStringLiteral(ORVANE_STUDIO)} + arguments);
+    m_process.start(program(), arguments);
     ASSERT_TRUE(m_process.waitForStarted()) << m_process.errorString().toStdString();
+}
+
+std::unique_ptr<QProcess> WindowRun::startAnother(const QStringList &arguments) const {
+    auto another = std::make_unique<QProcess>();
+    another->setProcessEnvironment(m_process.processEnvironment());
+    another->setProcessChannelMode(QProcess::MergedChannels);
+    another->setStandardOutputFile(m_home.filePath(u"another.txt"_s));
+    another->start(program(), arguments);
+    EXPECT_TRUE(another->waitForStarted()) << another->errorString().toStdString();
+    return another;
+}
+
+void WindowRun::kill() {
+    m_process.kill();
+    m_process.waitForFinished(60000);
 }
 
 QByteArray WindowRun::log() const {
@@ -81,13 +121,20 @@ QByteArray WindowRun::log() const {
     return console.open(QFile::ReadOnly) ? console.readAll() : QByteArray();
 }
 
-bool WindowRun::waitForLog(const QByteArray &text) {
-    const QDeadlineTimer deadline(60000);
-    while (!log().contains(text)) {
-        if (deadline.hasExpired() || m_process.waitForFinished(100))
-            return log().contains(text);
+bool WindowRun::waitUntil(const std::function<bool()> &condition) {
+    for (const QDeadlineTimer deadline(60000); !condition();) {
+        if (deadline.hasExpired() || !isRunning() || m_process.waitForFinished(100))
+            return condition();
     }
     return true;
+}
+
+bool WindowRun::waitForLog(const QByteArray &text) {
+    return waitUntil([&] { return log().contains(text); });
+}
+
+bool WindowRun::waitForSession(const QStringList &files) {
+    return waitUntil([&] { return session() == files; });
 }
 
 bool WindowRun::focus() {
@@ -98,7 +145,8 @@ bool WindowRun::focus() {
         const bool done = tool.waitForFinished(10000) && tool.exitCode() == 0;
         return done ? QString::fromLatin1(tool.readAllStandardOutput()).trimmed() : QString();
     };
-    // There is no window manager to give the window the keyboard. A window that is not on the screen yet refuses it.
+    // There is no window manager to give the window the keyboard. A window that is not on the screen yet
+    // refuses it.
     for (const QDeadlineTimer deadline(60000); !deadline.hasExpired() && isRunning(); QThread::msleep(100)) {
         const QStringList windows =
             xdotool({u"search"_s, u"--onlyvisible"_s, u"--pid"_s, id}).split(u'\n', Qt::SkipEmptyParts);
@@ -122,11 +170,20 @@ bool WindowRun::keys(const QStringList &names) {
     return true;
 }
 
-int WindowRun::pressUntilEnd(const QString &name) {
-    for (const QDeadlineTimer deadline(60000); !deadline.hasExpired() && isRunning();) {
-        if (!m_process.waitForFinished(1000) && isRunning())
-            QProcess::execute(u"xdotool"_s, {u"key"_s, name});
+bool WindowRun::pressUntil(const QStringList &names, const std::function<bool()> &condition) {
+    if (!focus())
+        return condition();
+    qsizetype next = 0;
+    for (const QDeadlineTimer deadline(60000); !condition() && !deadline.hasExpired() && isRunning();) {
+        if (m_process.waitForFinished(1000) || condition())
+            break;
+        QProcess::execute(u"xdotool"_s, {u"key"_s, names[next++ % names.size()]});
     }
+    return condition();
+}
+
+int WindowRun::pressUntilEnd(const QStringList &names) {
+    pressUntil(names, [this] { return !isRunning(); });
     return waitForEnd();
 }
 

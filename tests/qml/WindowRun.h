@@ -6,7 +6,11 @@
 
 #include <gtest/gtest.h>
 
-/// The window's program with a home, settings and logs of its own. Driven by keys, as a user does.
+#include <functional>
+#include <memory>
+
+/// The window's program with a home, settings, logs and an installation of its own. Driven by keys, as a user
+/// does.
 class WindowRun : public testing::Test {
 protected:
     WindowRun();
@@ -15,26 +19,42 @@ protected:
     /// A noisy photograph-like picture.
     QString picture(const QString &name, int width, int height) const;
     QString file(const QString &name, const QByteArray &content) const;
+    /// A path below the folder of the pictures.
+    QString below(const QString &name) const { return m_home.filePath(QStringLiteral("pictures/") + name); }
     void setting(const QString &key, const QVariant &value) const;
     QVariant setting(const QString &key) const;
+    QString settingsFile() const;
+    QString sessionFile() const;
+    /// The files that --recover would open.
+    QStringList session() const;
 
     void start(const QStringList &arguments);
+    /// A further start in the same home.
+    std::unique_ptr<QProcess> startAnother(const QStringList &arguments) const;
+    /// Ends it as a crash does.
+    void kill();
     bool isRunning() const { return m_process.state() == QProcess::Running; }
     /// All that it has logged so far.
     QByteArray log() const;
-    /// Until the log holds this text; false when it does not within a minute, or the program ended.
+    /// Until the condition holds; false when it does not within a minute, or the program ended.
+    bool waitUntil(const std::function<bool()> &condition);
     bool waitForLog(const QByteArray &text);
+    /// Until exactly these are the files of the session, in this order.
+    bool waitForSession(const QStringList &files);
     /// Sends keys to the window, in the names of X.
     bool keys(const QStringList &names);
-    /// Presses a key once a second until the program ends, for a question that may take its time to appear.
-    int pressUntilEnd(const QString &name);
+    /// Sends the keys in turn, one a second, until the condition holds: a dialog may take its time to appear,
+    /// and a window that is not active yet loses a key.
+    bool pressUntil(const QStringList &names, const std::function<bool()> &condition);
+    /// The same until the program ends: its exit code.
+    int pressUntilEnd(const QStringList &names);
     /// Its exit code, or -1 when it did not end within a minute.
     int waitForEnd();
 
 private:
     /// Gives the window the keyboard; false when it has not taken it within a minute.
     bool focus();
-    QString settingsFile() const;
+    QString program() const;
 
     QTemporaryDir m_home;
     QProcess m_process;
