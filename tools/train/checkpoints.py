@@ -2,10 +2,12 @@
 import os
 import pathlib
 
+import onnx
+import onnx.numpy_helper
 import torch
 
 from networks import Network
-from photographs import CACHE
+from photographs import CACHE, ROOM
 
 FOLDER = CACHE / "checkpoints"
 
@@ -21,10 +23,26 @@ def save(name, network, weights, **state):
     os.replace(part, path_of(name))
 
 
+def _exported(name):
+    """What an exported file holds, so that training goes on from the repository on another machine."""
+    found = [ROOM / "weights" / f"{name}.onnx", *(ROOM.parent.parent / "data" / "models").glob(f"*/{name}.onnx")]
+    file = next((file for file in found if file.exists()), None)
+    if file is None:
+        raise SystemExit(f"{name} has neither a checkpoint nor an exported file: train it first")
+    tensors = {t.name: torch.from_numpy(onnx.numpy_helper.to_array(t).copy()) for t in onnx.load(file).graph.initializer}
+    weights = {name: value for name, value in tensors.items() if name.endswith((".weight", ".bias"))}
+    channels, inputs = weights["head.weight"].shape[:2]
+    blocks = sum(key.endswith("first.weight") for key in weights)
+    scale = {12: 1, 48: 2, 192: 4}[weights["tail.weight"].shape[0]]
+    return dict(shape=dict(conditions=inputs - 12, channels=channels, blocks=blocks, scale=scale), weights=weights, step=0)
+
+
 def load(name_or_path):
     """(network with the averaged weights, whole state) of a recipe's name or a checkpoint file."""
     file = pathlib.Path(name_or_path)
-    state = torch.load(file if file.suffix == ".pt" else path_of(name_or_path), weights_only=True)
+    if file.suffix != ".pt":
+        file = path_of(name_or_path)
+    state = torch.load(file, weights_only=True) if file.exists() else _exported(name_or_path)
     network = Network(**state["shape"])
     network.load_state_dict(state["weights"])
     return network, state

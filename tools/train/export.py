@@ -8,7 +8,6 @@ import pathlib
 import sys
 
 import numpy
-import onnxruntime
 import torch
 
 import checkpoints
@@ -19,7 +18,7 @@ from recipes import RECIPES
 
 @contextlib.contextmanager
 def _quiet():
-    """The runtime registers its operators twice and says so a thousand times when its first session is made."""
+    """The runtime registers its operators twice and says so a thousand times when it is loaded."""
     kept, nothing = os.dup(2), os.open(os.devnull, os.O_WRONLY)
     os.dup2(nothing, 2)
     try:
@@ -37,6 +36,8 @@ def write(network, file):
                       dynamic_axes={"image": {2: "height", 3: "width"}, "result": {2: "height", 3: "width"}},
                       opset_version=17, dynamo=False)
     with _quiet():
+        import onnxruntime
+
         session = onnxruntime.InferenceSession(str(file), providers=["CPUExecutionProvider"])
     image, condition = torch.rand(1, 3, 128, 80), torch.rand(1, network.shape["conditions"])
     with torch.no_grad():
