@@ -6,6 +6,7 @@
 #include "app/SessionList.h"
 #include "app/TLogger.h"
 #include "app/platform/System.h"
+#include "app/studio/GuiWatch.h"
 #include "app/studio/InstanceRole.h"
 #include "app/studio/InterfaceFonts.h"
 #include "app/studio/QmlTypes.h"
@@ -106,6 +107,7 @@ int runInterface(QApplication &application, TIntegrations &integrations, TInterc
     qInfo() << "QML engine initialized";
     engine.load(main);
     qInfo() << "QML engine loaded";
+    const auto watch = GuiWatch::startIfAsked(engine.rootObjects().value(0));
     return QApplication::exec();
 }
 
