@@ -126,7 +126,11 @@ bool TIntercom::send(const QString &message, int timeoutMs) {
 bool TIntercom::waitForContinue() {
     if (m_client.state() != QLocalSocket::ConnectedState && m_received.isEmpty())
         return true;
-    const QByteArray verdict = awaitAnswer(m_client, m_received, QDeadlineTimer(WaitForVerdictMs));
+    const QDeadlineTimer deadline(WaitForVerdictMs);
+    QByteArray verdict = awaitAnswer(m_client, m_received, deadline);
+    // A server that was busy acknowledges later than send() waits for it.
+    if (verdict == ReceiptAnswer)
+        verdict = awaitAnswer(m_client, m_received, deadline);
     m_client.disconnectFromServer();
     return verdict != EndAnswer;
 }

@@ -76,6 +76,21 @@ TEST_F(Intercom, SecondInstanceHandsOverOrGoesOn) {
     }
 }
 
+TEST_F(Intercom, BusyServerStillTakesOver) {
+    TIntercom server(QCoreApplication::instance(), m_dir.path(), nullptr);
+    server.setExternalEditor(u"standalone"_s);
+    QSignalSpy merged(&server, &TIntercom::mergeInstance);
+    QProcess client;
+    client.start(QCoreApplication::applicationFilePath(),
+                 {u"--instance"_s, u"client"_s, m_dir.path(), u"plugin:standalone::[]"_s});
+    // Longer than the client waits for the receipt: a server that is still starting.
+    EXPECT_FALSE(client.waitForFinished(4000));
+    while (!client.waitForFinished(10))
+        QCoreApplication::processEvents();
+    EXPECT_EQ(client.exitCode(), Ended);
+    EXPECT_EQ(merged.size(), 1);
+}
+
 TEST_F(Intercom, LockOfACrashedServerIsTakenOver) {
     QProcess crashing;
     crashing.start(QCoreApplication::applicationFilePath(), {u"--instance"_s, u"crash"_s, m_dir.path()});
