@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-/// What the strengths of the classical models stand for, and the way back from a measurement to a
+/// What the strengths of the models stand for, and the way back from a measurement to a
 /// strength. All are linear: strength 0 does nothing, strength 1 assumes the maximum. The shipped
 /// definition files carry the same maxima; a test holds the two together.
 namespace StrengthScale {
@@ -29,7 +29,7 @@ inline constexpr Linear rawStandard{75.0 / 255}; ///< "RAW Standard"
 /// of a defocus disk, the length of a straight motion.
 inline constexpr Linear sharpenStandard{2.0}; ///< "Sharpen Standard v2"
 inline constexpr Linear sharpenStrong{3.0};   ///< "Sharpen Strong"
-inline constexpr Linear sharpenLens{4.0};     ///< "Sharpen Standard", isLens true
-inline constexpr Linear sharpenMotion{16.0};  ///< "Sharpen Standard", isLens false
+inline constexpr Linear sharpenLens{8.0};     ///< "Sharpen Standard", isLens true
+inline constexpr Linear sharpenMotion{9.0};   ///< "Sharpen Standard", isLens false
 
 } // namespace StrengthScale

@@ -6,6 +6,16 @@ namespace {
 
 constexpr int EnlargingHalo = 3; ///< of the cubic kernel, in pixels of the input
 
+/// Below this largest condition a restoration fades out: a network that is told of no damage still
+/// changes a picture a little, and a slider at its least must not.
+constexpr float FullEffect = 0.02f;
+
+float shareOf(const NetworkDefinition &definition, const std::vector<float> &conditions) {
+    if (definition.scale > 1 || conditions.empty())
+        return 1;
+    return std::min(1.0f, *std::max_element(conditions.begin(), conditions.end()) / FullEffect);
+}
+
 } // namespace
 
 NetworkPass::NetworkPass(const NetworkDefinition &definition, std::shared_ptr<const Network> network,
@@ -13,6 +23,7 @@ NetworkPass::NetworkPass(const NetworkDefinition &definition, std::shared_ptr<co
     : m_scale(definition.scale)
     , m_halo(definition.scale > 1 ? std::max(definition.halo, EnlargingHalo) : definition.halo)
     , m_tile(definition.tile)
+    , m_share(shareOf(definition, conditions))
     , m_network(std::move(network))
     , m_conditions(std::move(conditions)) {
 }
@@ -54,11 +65,16 @@ QString NetworkPass::run(const PlaneView *in, const PlaneView *out, Scratch &scr
         for (int y = 0; y < target.height; ++y) {
             const float *from = result + std::size_t(c) * plane + (top + y) * width + left;
             float *to = out[c].row(target.y + y);
-            if (m_scale == 1)
-                std::copy_n(from, target.width, to);
-            else
+            if (m_scale > 1) {
                 for (int x = 0; x < target.width; ++x)
                     to[x] += from[x];
+            } else if (m_share < 1) {
+                const float *before = in[c].at(target.x, target.y + y);
+                for (int x = 0; x < target.width; ++x)
+                    to[x] = before[x] + m_share * (from[x] - before[x]);
+            } else {
+                std::copy_n(from, target.width, to);
+            }
         }
     }
     return {};

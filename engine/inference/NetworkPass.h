@@ -25,6 +25,7 @@ private:
     int m_scale;
     int m_halo;
     int m_tile;
+    float m_share; ///< of the network's change that counts
     std::shared_ptr<const Network> m_network;
     std::vector<float> m_conditions;
 };

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -79,27 +81,32 @@ TEST(Catalogue, ShippedModels) {
 
 TEST(Catalogue, FilesAgreeWithTheStrengthScale) {
     struct Row {
-        const char *file, *constant;
+        const char *file;
+        int network;
+        int condition;
+        double unit; ///< what a condition of 1 stands for
         double maximum;
     };
+    // Blur is told by its spread: half the radius of a disk, the length of a line by the root of 12.
     const Row rows[] = {
-        {"denoise/low-light-beta", "sigmaMax", StrengthScale::denoiseNormal.maximum * 255},
-        {"denoise/severe-noise-beta", "sigmaMax", StrengthScale::denoiseStrong.maximum * 255},
-        {"denoise/severe-noise", "sigmaMax", StrengthScale::denoiseExtreme.maximum * 255},
-        {"raw/raw-native", "sigmaMax", StrengthScale::rawNative.maximum * 255},
-        {"raw/linear-raw", "sigmaMax", StrengthScale::rawNative.maximum * 255},
-        {"raw/raw-standard", "sigmaMax", StrengthScale::rawStandard.maximum * 255},
-        {"sharpen/sharpen-standard-v2", "extentMax", StrengthScale::sharpenStandard.maximum},
-        {"sharpen/sharpen-strong", "extentMax", StrengthScale::sharpenStrong.maximum},
-        {"sharpen/sharpen-standard", "extentMax", StrengthScale::sharpenMotion.maximum},
-        {"sharpen/sharpen-standard", "lensExtentMax", StrengthScale::sharpenLens.maximum},
+        {"denoise/low-light-beta", 0, 0, 75, StrengthScale::denoiseNormal.maximum * 255},
+        {"denoise/severe-noise-beta", 0, 0, 75, StrengthScale::denoiseStrong.maximum * 255},
+        {"denoise/severe-noise", 0, 0, 75, StrengthScale::denoiseExtreme.maximum * 255},
+        {"raw/raw-native", 0, 0, 75, StrengthScale::rawNative.maximum * 255},
+        {"raw/linear-raw", 0, 0, 75, StrengthScale::rawNative.maximum * 255},
+        {"raw/raw-standard", 0, 0, 75, StrengthScale::rawStandard.maximum * 255},
+        {"sharpen/sharpen-standard-v2", 0, 2, 4, StrengthScale::sharpenStandard.maximum},
+        {"sharpen/sharpen-strong", 0, 2, 4, StrengthScale::sharpenStrong.maximum},
+        {"sharpen/sharpen-standard", 0, 2, 4 * std::sqrt(12), StrengthScale::sharpenMotion.maximum},
+        {"sharpen/sharpen-standard", 1, 2, 4 * 2, StrengthScale::sharpenLens.maximum},
     };
     for (const Row &row : rows) {
         QFile file(QStringLiteral(ORVANE_MODELS "/%1.json").arg(QLatin1String(row.file)));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << row.file;
-        const QJsonObject constants =
-            QJsonDocument::fromJson(file.readAll()).object()[u"constants"].toObject();
-        EXPECT_NEAR(constants[QLatin1String(row.constant)].toDouble(), row.maximum, 1e-9) << row.file;
+        const QJsonObject network =
+            QJsonDocument::fromJson(file.readAll()).object()[u"networks"][row.network].toObject();
+        const double weight = network[u"conditions"][row.condition][u"strength"].toDouble();
+        EXPECT_NEAR(weight * row.unit, row.maximum, 1e-3 * row.maximum) << row.file;
     }
     EXPECT_NEAR(StrengthScale::denoiseStrong.strength(StrengthScale::denoiseStrong.measure(0.3)), 0.3, 1e-12);
 }

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 /// Each slider changes the picture more the further it is moved, and at its least all but not at all.
 TEST(Parameters, MonotoneForEveryModel) {
     Engine engine;
-    const auto clean = Pictures::scene(160, 128);
+    const auto clean = Pictures::scene(112, 96);
     const auto image = Pictures::changed(*Pictures::noisy(*Pictures::blurred(*clean, 0.8), 7),
                                          [](double v, int, int, int c) { return v * (0.75 - 0.12 * c); });
     for (const ModelCase &model : everyModel(engine.catalogue)) {

@@ -25,7 +25,7 @@ TEST(Stop, AnsweredAtOnceByEveryModel) {
     const auto image = Pictures::scene(1200, 900);
     for (ModelCase model : everyModel(engine.catalogue)) {
         if (model.category == u"Enhance"_s)
-            model.params[u"scale"_s] = 4;
+            model.params[u"scale"_s] = 2;
         ProcRequest request = Engine::request(image);
         Engine::add(request, model.category, model.category, model.model, model.params);
         request.full = false;
