@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -36,17 +37,17 @@ bool wait(const std::function<bool()> &condition) {
 
 } // namespace
 
-double staleRunMs() {
+StaleRuns cancelStaleRuns() {
     joinBackends();
     TEngineController engine;
     engine.setModelDirectory(QCoreApplication::applicationDirPath() + u"/../share/orvane-studio/models"_s);
     if (!wait([&] { return !engine.modelParamInfo().isEmpty(); }))
-        return -1;
+        return {};
     engine.setInputImage({{u"uid"_s, u"stale"_s}, {u"image"_s, QVariant::fromValue(picture())}});
     bool answered = false;
     QObject::connect(&engine, &TEngineController::canceled, &engine, [&] { answered = true; });
     const QVariantMap catalogue = engine.modelParamInfo();
-    double longest = 0;
+    StaleRuns all{0, 0};
     for (auto category = catalogue.begin(); category != catalogue.end(); ++category) {
         const QVariantMap models = category->toMap();
         double here = 0;
@@ -69,14 +70,16 @@ double staleRunMs() {
                 if (!engine.processing())
                     continue; // done before it could become stale
                 clock.restart();
+                const std::clock_t used = std::clock();
                 engine.cancelProc();
                 if (!wait([&] { return !engine.processing(); }) || !answered)
-                    return -1;
+                    return {};
                 here = std::max(here, double(clock.nsecsElapsed()) / 1e6);
+                all.computed = std::max(all.computed, 1e3 * double(std::clock() - used) / CLOCKS_PER_SEC);
             }
         }
         std::printf("  %-24s %6.1f ms\n", qPrintable(category.key()), here);
-        longest = std::max(longest, here);
+        all.longest = std::max(all.longest, here);
     }
-    return longest;
+    return all;
 }
