@@ -16,15 +16,21 @@ void LogQueue::close() {
     m_changed.notify_one();
 }
 
-void LogQueue::run() {
+void LogQueue::run(const Task &whenEmpty) {
+    std::unique_lock lock(m_mutex);
     for (;;) {
-        std::unique_lock lock(m_mutex);
         m_changed.wait(lock, [this] { return m_closed || !m_tasks.empty(); });
         if (m_tasks.empty())
             return;
-        const Task task = std::move(m_tasks.front());
-        m_tasks.pop_front();
+        while (!m_tasks.empty()) {
+            const Task task = std::move(m_tasks.front());
+            m_tasks.pop_front();
+            lock.unlock();
+            task();
+            lock.lock();
+        }
         lock.unlock();
-        task();
+        whenEmpty();
+        lock.lock();
     }
 }

@@ -18,8 +18,9 @@ public:
     /// No more comes; run() returns when everything given so far is done.
     void close();
 
-    /// Does the work, on the calling thread, until the queue is closed and empty.
-    void run();
+    /// Does the work, on the calling thread, until the queue is closed and empty. Each time it has run empty
+    /// `whenEmpty` follows: work that comes in bursts is finished once a burst.
+    void run(const Task &whenEmpty);
 
 private:
     std::mutex m_mutex;

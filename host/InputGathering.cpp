@@ -6,11 +6,14 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 
 class Gatherer {
 public:
-    Gatherer() {
+    explicit Gatherer(const std::stop_token &stop)
+        : m_stop(stop) {
         const QStringList formats = TImageUtils::supportedFileFormats();
         m_formats = QSet<QString>(formats.begin(), formats.end());
     }
@@ -29,7 +32,7 @@ public:
     void addFolder(const QString &folder) {
         QStringList found;
         QDirIterator walk(folder, QDir::Files, QDirIterator::Subdirectories);
-        while (walk.hasNext() && found.size() < MaxGatheredFiles) {
+        while (!m_stop.stop_requested() && walk.hasNext() && found.size() < MaxGatheredFiles) {
             const QString path = walk.next();
             if (isSupported(path))
                 found.append(path);
@@ -45,6 +48,7 @@ public:
     GatheredInput take() { return std::move(m_input); }
 
 private:
+    std::stop_token m_stop;
     QSet<QString> m_formats;
     QSet<QString> m_seen;
     GatheredInput m_input;
@@ -52,8 +56,8 @@ private:
 
 } // namespace
 
-GatheredInput gatherInput(const QStringList &words) {
-    Gatherer gatherer;
+GatheredInput gatherInput(const QStringList &words, const std::stop_token &stop) {
+    Gatherer gatherer(stop);
     for (const QString &word : words) {
         if (word.isEmpty())
             continue;
@@ -66,4 +70,8 @@ GatheredInput gatherInput(const QStringList &words) {
             gatherer.addInvalid(info.absoluteFilePath());
     }
     return gatherer.take();
+}
+
+bool namesFolder(const QStringList &words) {
+    return std::ranges::any_of(words, [](const QString &word) { return QFileInfo(word).isDir(); });
 }

@@ -1,7 +1,6 @@
 #include "host/TIntegrations.h"
 
 #include "contracts/TImageUtils.h"
-#include "host/InputGathering.h"
 
 #include <QCoreApplication>
 #include <QDropEvent>
@@ -40,8 +39,22 @@ void TIntegrations::start() {
     m_mergedBeforeStart.clear();
 }
 
+// A folder may be large or far away: it is walked in the background, and what comes meanwhile waits its turn.
 void TIntegrations::handOn(const QStringList &words, bool merging) {
-    const GatheredInput input = gatherInput(words);
+    if (m_gathering == 0 && !namesFolder(words)) {
+        announce(gatherInput(words), merging);
+        return;
+    }
+    ++m_gathering;
+    m_gatherer.post([this, words, merging](const std::stop_token &stop) {
+        m_mailbox.post([this, input = gatherInput(words, stop), merging] {
+            --m_gathering;
+            announce(input, merging);
+        });
+    });
+}
+
+void TIntegrations::announce(const GatheredInput &input, bool merging) {
     if (!input.images.isEmpty())
         Q_EMIT pluginImagesAdded(input.images, merging);
     if (!input.invalid.isEmpty())

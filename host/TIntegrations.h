@@ -1,6 +1,9 @@
 #pragma once
 
 #include "contracts/ImageData.h"
+#include "contracts/Mailbox.h"
+#include "contracts/WorkQueue.h"
+#include "host/InputGathering.h"
 
 #include <QObject>
 #include <QPointer>
@@ -101,10 +104,14 @@ Q_SIGNALS:
 
 private:
     void handOn(const QStringList &words, bool merging);
+    void announce(const GatheredInput &input, bool merging);
 
     QStringList m_words;
     bool m_started = false;
     QList<QStringList> m_mergedBeforeStart;
     QString m_currentImage;
     QPointer<QCoreApplication> m_application;
+    int m_gathering = 0; ///< batches under way
+    Mailbox m_mailbox;
+    WorkQueue m_gatherer;
 };

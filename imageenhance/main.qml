@@ -1,8 +1,6 @@
 pragma ComponentBehavior: Bound
-
 import QtQuick
 import QtQuick.Controls
-import QWindowKit
 import TControls
 import TImageIO
 import TPresetsManager
@@ -18,30 +16,30 @@ ApplicationWindow {
     readonly property var context: appContext
     readonly property var session: appState
     readonly property var host: tIntegrations
+    readonly property var intercom: tIntercom
     readonly property var systemTheme: themeListener
     // qmllint enable unqualified
 
-    minimumWidth: 1280
-    minimumHeight: 720
-    width: 1440
-    height: 900
+    minimumWidth: Math.min(1280, Screen.desktopAvailableWidth)
+    minimumHeight: Math.min(720, Screen.desktopAvailableHeight)
+    width: Math.min(1440, Screen.desktopAvailableWidth)
+    height: Math.min(900, Screen.desktopAvailableHeight)
     title: windowState.windowTitle
     color: PebbleStyle.color.pageBkg
     onClosing: close => close.accepted = dialogs.closing.quit.mayClose()
     onActiveChanged: keyState.reset()
     onVisibilityChanged: visibility => {
-        place.visibilityChanged(visibility);
-        globalFocus.forceActiveFocus();
+        windowStart.visibilityChanged(visibility);
+        content.takeFocus();
     }
     Component.onCompleted: {
         helpers.listen();
         PebbleStyle.tooltipPlane = tooltipPlane;
-        startUp.run();
+        windowStart.run();
     }
 
     // The model, and what answers for pixels and files
     MainSettings { id: mainSettings }
-    BaseTheme { id: baseTheme; isWindows: appWindow.context.isWindows }
     Helpers { id: helpers; appContext: appWindow.context; appWindow: appWindow; settings: mainSettings }
     TControls {
         id: controlState
@@ -61,17 +59,16 @@ ApplicationWindow {
         inputImage: windowState.imageData
         params: controlState.currentControls
         exporting: windowState.isExporting
+        onLowSpaceWarning: (volume, critical) => dialogs.notices.lowSpace(volume, critical)
     }
 
     // State, and the flows without a screen
-    WindowState { id: windowState; helpers: helpers; controls: controlState; reader: imageReader; integrations: appWindow.host; editMode: rightPanel.editMode }
+    WindowState { id: windowState; helpers: helpers; controls: controlState; reader: imageReader; integrations: appWindow.host; editMode: content.panel.editMode }
     ImageRoad {
-        helpers: helpers
-        controls: controlState
         engine: imageProcessor
-        reader: imageReader
-        preview: previewPanel
-        panel: rightPanel
+        writer: imageWriter
+        preview: content.preview
+        panel: content.panel
         state: windowState
         settings: mainSettings
         onLoadingFailed: (path, error) => dialogs.notices.cannotRead(path, error)
@@ -83,94 +80,71 @@ ApplicationWindow {
         osUtils: helpers.osUtils
         settings: mainSettings
         pluginMode: windowState.pluginMode
-        onOpened: dialogs.closing.quit.imagesOpened()
+        onOpened: {
+            dialogs.closing.quit.imagesOpened();
+            Qt.callLater(helpers.imageOpened);
+        }
         onLastClosedByHost: appWindow.close()
     }
-    HostConnection { integrations: appWindow.host; controls: controlState; onCloseRefineMode: rightPanel.closeRefineMode(); onInvalidImages: dialogs.notices.invalidImages() }
+    HostConnection {
+        integrations: appWindow.host
+        intercom: appWindow.intercom
+        controls: controlState
+        onCloseRefineMode: content.panel.closeRefineMode()
+        onInvalidImages: images => dialogs.notices.invalidImages(images)
+        onLoadingFailed: (path, error) => dialogs.notices.cannotRead(path, error)
+        onTrack: (name, properties) => helpers.eventTracker.track(name, properties)
+    }
+
+    // Keys, commands and the start
     KeyState { id: keyState; osUtils: helpers.osUtils }
     AppCommands {
         id: appMenuHandler
         controls: controlState
-        panel: rightPanel
+        panel: content.panel
         closing: dialogs.closing
-        osUtils: helpers.osUtils
-        appContext: appWindow.context
+        helpers: helpers
         onOpenFileDialog: dialogs.openImageDialog.open()
         onCloseWindow: appWindow.close()
     }
-
-    // The start
-    WindowAgent { id: windowAgent }
-    WindowPlace { id: place; appWindow: appWindow; appContext: appWindow.context; osUtils: helpers.osUtils; settings: mainSettings }
-    StartUp {
-        id: startUp
-        appWindow: appWindow
-        appContext: appWindow.context
-        osUtils: helpers.osUtils
+    WindowStart {
+        id: windowStart
         integrations: appWindow.host
-        windowAgent: windowAgent
-        titleBar: titleBar
         themeListener: appWindow.systemTheme
+        titleBar: content.titleBar
+        helpers: helpers
         settings: mainSettings
-        place: place
         recentFiles: openedImages.recentFiles
-        onShown: helpers.startEvent.start()
     }
 
-    // What is seen
-    WinTitleBar {
-        id: titleBar
-        anchors { left: parent.left; right: parent.right }
+    // What is seen, and what opens over it
+    WindowContent {
+        id: content
+        anchors.fill: parent
         window: appWindow
-        windowState: windowState
-        settings: mainSettings
         appVersion: appWindow.context.appVersion
-    }
-    WorkArea {
-        anchors { left: parent.left; right: parent.right; top: titleBar.bottom; bottom: parent.bottom }
-        preview: previewPanel
-        panel: rightPanel
         windowState: windowState
-        imageUtils: helpers.imageUtils
-        recentFiles: openedImages.recentFiles
-        commands: appMenuHandler
-        theme: baseTheme
-        onBrowseImages: dialogs.openImageDialog.show()
-    }
-    RightPanel { id: rightPanel; controls: controlState; settings: mainSettings; navigator: previewPanel.navigator; imageOpen: windowState.imageOpen }
-    ImagePreview {
-        id: previewPanel
-        helpers: helpers
         engine: imageProcessor
-        controls: controlState
-        windowState: windowState
         settings: mainSettings
-        panKeyHeld: keyState.panKeyHeld
-        originalKeyHeld: keyState.spaceHeld || keyState.slashHeld
-        navigatorWidth: rightPanel.navigatorWidth
-        onOpenImageDialog: dialogs.openImageDialog.open()
-        onFocusWanted: globalFocus.forceActiveFocus()
+        keyState: keyState
+        commands: appMenuHandler
+        recentFiles: openedImages.recentFiles
+        dialogOpen: dialogs.anyOpen
+        onBrowseImages: dialogs.openImageDialog.show()
+        onAddImages: dialogs.openImageDialog.open()
     }
-    FocusScope {
-        id: globalFocus
-        focus: true
-        Keys.onPressed: event => event.accepted = keyState.pressed(event.key, event.modifiers)
-        Keys.onReleased: event => event.accepted = keyState.released(event.key, event.modifiers)
-    }
-    AppShortcuts { commands: appMenuHandler; preview: previewPanel; windowState: windowState; active: !dialogs.anyOpen }
     WindowDialogs {
         id: dialogs
         anchors.fill: parent
         commands: appMenuHandler
-        helpers: helpers
-        controls: controlState
+        windowState: windowState
         engine: imageProcessor
-        panel: rightPanel
+        panel: content.panel
         settings: mainSettings
-        imageOpen: windowState.imageOpen
         developerMode: appWindow.context.isDev
+        workAreaTop: content.titleBar.height
         onCloseWindow: appWindow.close()
-        onDone: globalFocus.forceActiveFocus()
+        onDone: content.takeFocus()
     }
     PbTooltipPlane { id: tooltipPlane; anchors.fill: parent; z: 100 }
 }

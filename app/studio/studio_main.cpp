@@ -4,6 +4,7 @@
 #include "app/Directories.h"
 #include "app/LogStart.h"
 #include "app/SessionList.h"
+#include "app/SettingsStore.h"
 #include "app/TLogger.h"
 #include "app/platform/System.h"
 #include "app/studio/GuiWatch.h"
@@ -147,6 +148,7 @@ int main(int argc, char **argv) {
     const QString logDirectory = startLog(false, 0);
 
     const QSettings settings(Identity::organization(), Identity::productName());
+    reportSettingsStore(settings);
     if (isCrashReporterBypassed(qgetenv("ORVANE_BYPASS_CRASHPAD"), [&settings] {
             return settings.value(u"allowEventTracking"_s, true).toBool();
         }))

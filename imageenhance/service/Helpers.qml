@@ -25,6 +25,10 @@ QtObject {
         isDev: _top.appContext.isDev
         machineId: _top.osUtils.machineId()
     }
+    readonly property UsageCounts usage: UsageCounts {
+        panelCollapsed: _top.settings.rightPanelCollapsed
+        panelDocked: _top.settings.dragState.x === 0 && _top.settings.dragState.y === 0
+    }
     readonly property StartEvent startEvent: StartEvent {
         tracker: _top.eventTracker
         osUtils: _top.osUtils
@@ -32,15 +36,24 @@ QtObject {
         settings: _top.settings
     }
 
+    // The first thing of a session.
     function listen(): void {
+        settings.repair();
         mouseListener.listenTo(appWindow);
         tabletListener.listenTo(appWindow);
         settings.dropVanishedFolders(path => osUtils.fileExists(path));
     }
 
+    function imageOpened(): void {
+        eventTracker.track("Image Opened");
+    }
+
     // The last things of a session.
     function leave(): void {
         osUtils.clearTempFiles();
-        eventTracker.track("Application Closed");
+        eventTracker.track("Application Closed", {
+            "sidebar_toggled_count": usage.sidebarToggled,
+            "menu_docked_toggled_count": usage.menuDockedToggled
+        });
     }
 }

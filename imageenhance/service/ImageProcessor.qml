@@ -28,9 +28,13 @@ TEngineController {
         boundingBox = Qt.rect(0, 0, 0, 0);
     }
 
-    function takeProblems(uid: string, problems: var): void {
-        if (uid !== inputImage.uid)
-            return;
+    // Cuts the image into the grains that a brush of this size takes.
+    function procSuperpixels(brushSize: real): void {
+        superpixels = imageDataUtils.blankImage();
+        generateSuperpixels(inputImage, brushSize);
+    }
+
+    function takeProblems(problems: var): void {
         faceLandmarks = problems.faceLandmarks ?? [];
         salientRatio = problems.salientRatio ?? null;
         faceProblems = {

@@ -6,17 +6,17 @@ import imageenhance
 QtObject {
     id: _top
 
-    required property var controls // TControls
     required property var engine // ImageProcessor
-    required property var reader // TImageReader
+    required property var writer // TImageWriter
     required property var preview // ImagePreview
     required property var panel // RightPanel
-    required property Helpers helpers
     required property WindowState state
     required property MainSettings settings
 
     readonly property alias scheduler: _scheduler
     readonly property alias autopilot: _autopilot
+    readonly property alias selections: _selections
+    readonly property alias sizes: _sizes
 
     signal loadingFailed(string path, string error)
 
@@ -24,9 +24,9 @@ QtObject {
         id: _scheduler
 
         engine: _top.engine
-        controls: _top.controls
-        imageUtils: _top.helpers.imageUtils
-        imageDataUtils: _top.helpers.imageDataUtils
+        controls: _top.state.controls
+        imageUtils: _top.state.helpers.imageUtils
+        imageDataUtils: _top.state.helpers.imageDataUtils
         preview: _top.preview
         loading: _top.state.isLoading
         autopilotRunning: _top.state.autopilotRunning
@@ -35,7 +35,7 @@ QtObject {
         panelAnimating: _top.panel.animating
         addingFilter: _top.panel.addingFilter
         editingMask: _top.state.isEditingSubject || _top.state.isSelectingText
-        mousePressed: _top.helpers.mouseListener.isMousePressed
+        mousePressed: _top.state.helpers.mouseListener.isMousePressed
         cropRect: _top.state.currentCropRect
         cropRotation: _top.state.currentRotation
     }
@@ -44,7 +44,7 @@ QtObject {
         id: _autopilot
 
         engine: _top.engine
-        controls: _top.controls
+        controls: _top.state.controls
         scheduler: _scheduler
         exporting: _top.state.isExporting
         faceDetection: _top.settings.autopilotFaceDetect
@@ -57,17 +57,45 @@ QtObject {
     readonly property ImageOpening _openingObject: ImageOpening {
         id: _opening
 
-        controls: _top.controls
+        controls: _top.state.controls
         engine: _top.engine
-        reader: _top.reader
+        reader: _top.state.reader
         autopilot: _autopilot
         scheduler: _scheduler
         exporting: _top.state.isExporting
         onLoadingFailed: (path, error) => _top.loadingFailed(path, error)
     }
 
+    readonly property ProcTriggers _triggersObject: ProcTriggers {
+        scheduler: _scheduler
+        engine: _top.engine
+        preview: _top.preview
+        panel: _top.panel
+    }
+
+    readonly property Selections _selectionsObject: Selections {
+        id: _selections
+
+        engine: _top.engine
+        controls: _top.state.controls
+        preview: _top.preview
+        exporting: _top.state.isExporting
+    }
+
+    readonly property SizeEstimates _sizesObject: SizeEstimates {
+        id: _sizes
+
+        writer: _top.writer
+        imageUtils: _top.state.helpers.imageUtils
+        integrations: _top.state.integrations
+        settings: _top.settings
+        engine: _top.engine
+        panel: _top.panel
+        currentImage: _top.state.controls.currentImage
+    }
+
     readonly property Connections _ofControls: Connections {
-        target: _top.controls
+        target: _top.state.controls
 
         function onCurrentIndexChanged(): void {
             _opening.currentIndexChanged();
@@ -75,23 +103,23 @@ QtObject {
 
         // The next image takes the place of the one that went.
         function onImagesClosed(): void {
-            const count = _top.controls.loadedImages.length;
+            const count = _top.state.controls.loadedImages.length;
             if (count === 0)
-                _top.reader.clear();
-            else if (_top.controls.currentImage !== _top.reader.filepath)
-                _top.controls.setCurrentIndex(Math.min(Math.max(_top.controls.currentIndex, 0), count - 1), true);
+                _top.state.reader.clear();
+            else if (_top.state.controls.currentImage !== _top.state.reader.filepath)
+                _top.state.controls.setCurrentIndex(Math.min(Math.max(_top.state.controls.currentIndex, 0), count - 1), true);
         }
     }
 
     readonly property Connections _ofReader: Connections {
-        target: _top.reader
+        target: _top.state.reader
 
         function onImagedataChanged(): void {
-            _opening.imageDataChanged(_top.reader.imagedata);
+            _opening.imageDataChanged(_top.state.reader.imagedata);
         }
 
         function onErrorChanged(): void {
-            _opening.readerFailed(_top.reader.error);
+            _opening.readerFailed(_top.state.reader.error);
         }
     }
 
@@ -103,16 +131,8 @@ QtObject {
             _autopilot.setupImage();
         }
 
-        function onParamsChanged(): void {
-            _scheduler.paramsChanged();
-        }
-
         function onAutoPilotFinished(uid: string, settings: var): void {
             _autopilot.finished(uid, settings);
-        }
-
-        function onAutoProblemsUpdated(uid: string, problems: var): void {
-            _top.engine.takeProblems(uid, problems);
         }
 
         function onProcResultChanged(): void {
@@ -122,30 +142,6 @@ QtObject {
         function onDownloadingModelsChanged(): void {
             if (!_top.engine.downloadingModels)
                 _autopilot.modelsDownloaded();
-        }
-    }
-
-    readonly property Connections _ofPreview: Connections {
-        target: _top.preview
-
-        function onRequestProc(roi: rect): void {
-            _scheduler.viewChanged(roi);
-        }
-
-        function onProcRoiChanged(): void {
-            _scheduler.procRoiChanged();
-        }
-    }
-
-    readonly property Connections _ofPanel: Connections {
-        target: _top.panel
-
-        function onRequestProc(): void {
-            _scheduler.requestFrom("right panel");
-        }
-
-        function onEditModeChanged(): void {
-            _scheduler.requestFrom("edit mode changed");
         }
     }
 }

@@ -11,6 +11,10 @@ QtObject {
     required property var osUtils // OSUtils
     required property MainSettings settings
     required property bool pluginMode
+    // The images in view, and a few on each side. Without a list on the screen, those about the current one.
+    property int firstVisible: controls.currentIndex
+    property int lastVisible: controls.currentIndex
+    readonly property int margin: 2
 
     readonly property alias recentFiles: _recentFiles
     // More than one image was open after the last opening.
@@ -33,6 +37,8 @@ QtObject {
     readonly property TThumbnailWriter _writerObject: TThumbnailWriter {
         id: _writer
         currentIndex: _top.controls.currentIndex
+        startIndex: Math.max(0, _top.firstVisible - _top.margin)
+        endIndex: Math.max(0, _top.lastVisible + _top.margin)
         onIndexUpdated: Qt.callLater(_writer.startGenerating)
         onThumbnailWritten: (index, path, thumbnail) => _thumbnails.written(index, path, thumbnail)
     }

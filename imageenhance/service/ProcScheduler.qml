@@ -1,4 +1,5 @@
 import QtQuick
+import "../utils/viewport.mjs" as Viewport
 
 // Decides when the engine runs on what is seen. Many causes ask; Qt.callLater folds them into one request, and the
 // gates of procCurrentRoi drop what would show nothing new or disturb something else.
@@ -36,30 +37,10 @@ QtObject {
 
     // The one entry for runs on what is seen.
     function procCurrentRoi(): void {
-        if (_top.loading) {
-            console.info("[PROC] Ignoring proc call while running loading image");
-            return;
-        }
-        if (_top.autopilotRunning) {
-            console.info("[PROC] Ignoring proc call while running AP");
-            return;
-        }
-        if (_top.exporting) {
-            console.info("[PROC] Ignoring proc call while exporting");
-            return;
-        }
-        // The image may have gone since the call was deferred.
         const roi = _top.preview.procRoi;
-        if (!_top.imageOpen || roi.width <= 0 || roi.height <= 0) {
-            console.info("[PROC] Ignoring proc call without an image");
-            return;
-        }
-        const current = _top.controls.currentControls;
-        if (_private.skipsOnce(current))
-            return;
-        const last = _top.engine.procResult;
-        if (last.requestUid && last.changesCount === current.changesCount && _top.imageUtils.doesRectCoverRect(last.requestRoi, roi)) {
-            console.info("Skipping proc due to previous proc already covering new roi");
+        const why = _private.shutGate(roi);
+        if (why !== "") {
+            console.info(why);
             return;
         }
         console.info("[PROC] Cancelling old proc due to new request");
@@ -72,21 +53,22 @@ QtObject {
     function procFull(): void {
         const size = _top.imageDataUtils.imageSize(_top.engine.inputImage.image);
         const crop = Qt.rect(_top.cropRect.x * size.width, _top.cropRect.y * size.height, _top.cropRect.width * size.width, _top.cropRect.height * size.height);
-        const degrees = _top.cropRotation * 180 / Math.PI;
-        const bounds = _top.imageUtils.getBoundingRect(crop, degrees);
-        _top.engine.procRequest(_private.movedInside(bounds, size), _top.controls.filterOrder);
+        const region = Viewport.movedInside(_top.imageUtils.getBoundingRect(crop, _top.cropRotation * 180 / Math.PI), size);
+        _top.engine.procRequest(Qt.rect(region.x, region.y, region.width, region.height), _top.controls.filterOrder);
     }
 
+    // A change of settings may change the view, which tells a turn of the event loop later: one run for both.
     function requestFrom(cause: string): void {
         console.info("[PROC] Proc requested from " + cause);
-        Qt.callLater(_top.procCurrentRoi);
+        _private.runAfter(2);
     }
 
     // The view came to rest on another region.
     function viewChanged(roi: rect): void {
         if (_top.preview.moving || !_top.imageOpen || _top.exporting || roi.width <= 0 || roi.height <= 0 || _top.panelAnimating)
             return;
-        _top.requestFrom("request proc");
+        console.info("[PROC] Proc requested from request proc");
+        _private.runAfter(1);
     }
 
     function procRoiChanged(): void {
@@ -119,27 +101,57 @@ QtObject {
 
     readonly property QtObject _private: QtObject {
         id: _private
-
         property bool queuedProc: false
+        property int turnsLeft: 0 // of the event loop until a run
+
+        function runAfter(turns: int): void {
+            turnsLeft = Math.max(turnsLeft, turns);
+            Qt.callLater(_private.nextTurn);
+        }
+
+        function nextTurn(): void {
+            if (--turnsLeft > 0)
+                Qt.callLater(_private.nextTurn);
+            else
+                _top.procCurrentRoi();
+        }
+
+        // Why nothing is to be run now, in the words of the log; empty when all gates are open.
+        function shutGate(roi: rect): string {
+            if (_top.loading)
+                return "[PROC] Ignoring proc call while running loading image";
+            if (_top.autopilotRunning)
+                return "[PROC] Ignoring proc call while running AP";
+            if (_top.exporting)
+                return "[PROC] Ignoring proc call while exporting";
+            const current = _top.controls.currentControls;
+            if (skipsOnce(current))
+                return "Skipping proc due to update flag on Enhance";
+            if (isCovered(roi, current.changesCount))
+                return "Skipping proc due to previous proc already covering new roi";
+            // The image may have gone since the call was deferred.
+            if (!_top.imageOpen || roi.width <= 0 || roi.height <= 0)
+                return "[PROC] Ignoring proc call without an image";
+            return "";
+        }
+
+        // By the last result, of this image and these settings.
+        function isCovered(roi: rect, changesCount: int): bool {
+            const last = _top.engine.procResult;
+            if (!last.requestUid || last.filepath !== _top.controls.currentImage || last.changesCount !== changesCount)
+                return false;
+            return _top.imageUtils.doesRectCoverRect(last.requestRoi, roi);
+        }
 
         // The resolution controls set this flag to change values without a run.
         function skipsOnce(current: var): bool {
-            const enhance = current["Enhance"];
-            if (!enhance || !enhance.params || !enhance.params.updated)
+            const params = current["Enhance"]?.params;
+            if (!params?.updated)
                 return false;
-            console.info("Skipping proc due to update flag on Enhance");
-            const params = Object.assign({}, enhance.params);
-            params.updated = false;
-            _top.controls.setParams("Enhance", params);
+            _top.controls.setParams("Enhance", Object.assign({}, params, {
+                "updated": false
+            }));
             return true;
-        }
-
-        function movedInside(bounds: rect, size: size): rect {
-            const width = Math.min(bounds.width, size.width);
-            const height = Math.min(bounds.height, size.height);
-            const x = Math.min(Math.max(0, bounds.x), size.width - width);
-            const y = Math.min(Math.max(0, bounds.y), size.height - height);
-            return Qt.rect(x, y, width, height);
         }
     }
 }

@@ -8,19 +8,12 @@ QtObject {
     required property var writer // TThumbnailWriter
 
     function refresh(): void {
-        const datas = [];
-        for (let index = 0; index < _top.controls.loadedImages.length; ++index)
-            datas.push(_top.controls.getImageData(index));
-        _top.writer.imageDatas = datas;
+        _top.writer.imageDatas = _top.controls.allImageData();
         _top.writer.startGenerating();
     }
 
     function imageDataChanged(index: int): void {
-        const datas = Array.from(_top.writer.imageDatas);
-        if (index >= datas.length)
-            return;
-        datas[index] = _top.controls.getImageData(index);
-        _top.writer.imageDatas = datas;
+        _top.writer.setImageData(index, _top.controls.getImageData(index));
     }
 
     // The list may have shifted since the thumbnail was begun.

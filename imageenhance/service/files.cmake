@@ -11,10 +11,14 @@ list(APPEND STUDIO_QML
   service/KeyState.qml
   service/OpenedImages.qml
   service/ProcScheduler.qml
+  service/ProcTriggers.qml
   service/QuitFlow.qml
   service/RecentFiles.qml
+  service/Selections.qml
+  service/SizeEstimates.qml
   service/StartEvent.qml
   service/StartUp.qml
   service/Thumbnails.qml
+  service/UsageCounts.qml
   service/WindowState.qml
 )

@@ -2,11 +2,21 @@ import QtQuick
 import QtCore
 import TImageSettings
 import imageenhance
+import "settingsRules.mjs" as Rules
 
 // Every persistent setting with its default. A property changed anywhere is stored by this object itself; the
-// batch program reads some of the same keys.
+// batch program reads some of the same keys. No property of another kind may stand here: it would be stored, too.
 Settings {
     id: _top
+
+    // Once, when the stored values stand and before anything is done by them.
+    function repair(): void {
+        for (const correction of Rules.corrections(_top, key => _top.value(key, ""))) {
+            if (correction.damaged)
+                console.warn(`The setting ${correction.key} held no valid value; it has its default now.`);
+            _top[correction.key] = correction.value;
+        }
+    }
 
     // Window
     property rect windowGeometry: Qt.rect(0, 0, 0, 0)

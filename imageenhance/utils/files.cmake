@@ -1,3 +1,5 @@
 list(APPEND STUDIO_FILES
+  utils/support.mjs
   utils/viewport.mjs
+  utils/writerOptions.mjs
 )

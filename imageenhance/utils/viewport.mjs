@@ -60,6 +60,13 @@ export function boundingRect(visible, actual, crop, rotation) {
     return bound;
 }
 
+// An upright rectangle moved and clipped so that it lies in an image of this size.
+export function movedInside(bounds, size) {
+    const width = Math.min(bounds.width, size.width);
+    const height = Math.min(bounds.height, size.height);
+    return { x: clamp(bounds.x, 0, size.width - width), y: clamp(bounds.y, 0, size.height - height), width, height };
+}
+
 // The zoom at which the cropped image fills the view. While cropping it also fits turned by a quarter.
 export function fitZoom(imageSize, crop, view, pixelRatio, scale, cropping) {
     const width = imageSize.width * crop.width;

@@ -1,4 +1,5 @@
 import QtQuick
+import imageenhance
 
 // One function for each command of the window, wherever it comes from: menus, keys, buttons.
 QtObject {
@@ -7,8 +8,7 @@ QtObject {
     required property var controls // TControls
     required property var panel // RightPanel
     required property var closing // ClosingQuestions
-    required property var osUtils // OSUtils
-    required property var appContext // AppContext
+    required property Helpers helpers
 
     signal openFileDialog
     signal closeWindow
@@ -28,7 +28,7 @@ QtObject {
     }
 
     function paste(): void {
-        const paths = osUtils.clipboard();
+        const paths = helpers.osUtils.clipboard();
         if (paths.length > 0)
             loadImages(paths);
         else
@@ -48,7 +48,7 @@ QtObject {
     }
 
     function showFile(): void {
-        osUtils.showFileInGraphicalShell(controls.currentImage);
+        helpers.osUtils.showFileInGraphicalShell(controls.currentImage);
     }
 
     function step(by: int): void {
@@ -70,11 +70,11 @@ QtObject {
     }
 
     function openLogDir(): void {
-        osUtils.openFolder(appContext.logDirectory);
+        helpers.osUtils.openFolder(helpers.appContext.logDirectory);
     }
 
     function openPresetsDir(): void {
-        osUtils.openFolder(appContext.presetsDirectory);
+        helpers.osUtils.openFolder(helpers.appContext.presetsDirectory);
     }
 
     function exit(): void {

@@ -4,7 +4,8 @@ import QtQuick.Layouts
 import PebbleUI
 import imageenhance
 
-// For developers, Ctrl+Shift+D: puts Autopilot's filters on the image, sets a parameter of one, switches settings.
+// For developers, Ctrl+Shift+D: puts Autopilot's filters on the image, sets a parameter of one, asks for the size of a
+// save, switches settings.
 Rectangle {
     id: _top
 
@@ -60,6 +61,17 @@ Rectangle {
                 compact: true
                 text: "Set"
                 onClicked: _top.controls.setParam(_filter.text, _key.text, _key.text === "enabled" ? _value.text === "true" : Number(_value.text))
+            }
+        }
+        RowLayout {
+            PbButton {
+                compact: true
+                text: "Estimate file size"
+                onClicked: _top.panel.estimateFileSize()
+            }
+            PbLabel {
+                text: _top.panel.fileSizeError || `${(_top.panel.fileSize / 1e6).toFixed(2)} MB`
+                Layout.fillWidth: true
             }
         }
         RowLayout {

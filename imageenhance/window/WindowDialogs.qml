@@ -1,4 +1,5 @@
 import QtQuick
+import PebbleUI
 import imageenhance
 
 // All that opens over the window, and the flows behind it.
@@ -6,17 +7,17 @@ Item {
     id: _top
 
     required property AppCommands commands
-    required property Helpers helpers
-    required property var controls // TControls
+    required property WindowState windowState
     required property var engine // ImageProcessor
     required property var panel // RightPanel
     required property MainSettings settings
-    required property bool imageOpen
     required property bool developerMode
+    required property real workAreaTop // below the title bar
 
     readonly property bool anyOpen: _closing.anyOpen || _notices.anyOpen
     readonly property alias closing: _closing
     readonly property alias notices: _notices
+    readonly property alias toaster: _toaster
     readonly property alias openImageDialog: _openImage
 
     signal closeWindow
@@ -24,31 +25,38 @@ Item {
 
     OpenImageDialog {
         id: _openImage
-        imageUtils: _top.helpers.imageUtils
+        imageUtils: _top.windowState.helpers.imageUtils
         onChosen: paths => _top.commands.loadImages(paths)
     }
     ClosingQuestions {
         id: _closing
-        controls: _top.controls
+        controls: _top.windowState.controls
         engine: _top.engine
-        osUtils: _top.helpers.osUtils
+        osUtils: _top.windowState.helpers.osUtils
         settings: _top.settings
-        imageOpen: _top.imageOpen
+        imageOpen: _top.windowState.imageOpen
         onCloseRefineMode: _top.panel.closeRefineMode()
         onCloseWindow: _top.closeWindow()
-        onLeaving: _top.helpers.leave()
+        onLeaving: _top.windowState.helpers.leave()
         onDone: _top.done()
     }
     WindowNotices {
         id: _notices
-        osUtils: _top.helpers.osUtils
-        imageUtils: _top.helpers.imageUtils
+        osUtils: _top.windowState.helpers.osUtils
+        imageUtils: _top.windowState.helpers.imageUtils
+        toaster: _toaster
         onDone: _top.done()
+    }
+    Toaster {
+        id: _toaster
+        anchors { right: parent.right; top: parent.top }
+        anchors.rightMargin: (_top.windowState.imageOpen ? _top.panel.width : 0) + PebbleStyle.size.spacingLarge
+        anchors.topMargin: _top.workAreaTop + PebbleStyle.size.spacingLarge
     }
     DebugConsoleLoader {
         anchors { left: parent.left; bottom: parent.bottom; leftMargin: 24; bottomMargin: 96 }
         available: _top.developerMode
-        controls: _top.controls
+        controls: _top.windowState.controls
         panel: _top.panel
         settings: _top.settings
     }

@@ -5,8 +5,10 @@ list(APPEND STUDIO_QML
   window/DebugConsoleLoader.qml
   window/DimensionsHeader.qml
   window/OpenImageDialog.qml
+  window/WindowContent.qml
   window/WindowDialogs.qml
   window/WindowPlace.qml
+  window/WindowStart.qml
   window/WinTitleBar.qml
   window/WorkArea.qml
 )

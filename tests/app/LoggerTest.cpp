@@ -1,10 +1,12 @@
 #include "app/TLogger.h"
 
+#include <QDeadlineTimer>
 #include <QDebug>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -60,6 +62,21 @@ private:
     int m_saved;
     int m_ends[2] = {-1, -1};
 };
+
+// What a killed program leaves behind, and what whoever follows the log sees.
+TEST(Logger, LinesAreInTheFileWithoutAnotherCall) {
+    const QTemporaryDir folder;
+    start(folder.path(), 4, true);
+    const QString path = TLogger::currentLogFile();
+    for (const char *text : {"first of it", "second of it"}) {
+        qInfo("%s", text);
+        const QDeadlineTimer deadline(60000);
+        while (!contents(path).contains(text) && !deadline.hasExpired())
+            QThread::msleep(1);
+        EXPECT_TRUE(contents(path).contains(text)) << text;
+    }
+    TLogger::shutdown();
+}
 
 TEST(Logger, FileTakesInfoAndAboveWhateverTheConsoleWants) {
     for (const int consoleLevel : {0, 1, 4}) {

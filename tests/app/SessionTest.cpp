@@ -1,5 +1,6 @@
 #include "app/AppState.h"
 #include "app/SessionList.h"
+#include "app/SettingsStore.h"
 #include "contracts/AppContext.h"
 
 #include <QDir>
@@ -36,6 +37,36 @@ TEST(Session, ForeignLists) {
               QStringList({QStringLiteral("/a.jpg"), QString(), QStringLiteral("/b.jpg")}));
     ASSERT_TRUE(file.resize(qint64(20) << 20));
     EXPECT_TRUE(readSessionList(logs.path()).isEmpty()) << "a list no session makes";
+    for (const QByteArray &damage :
+         {QByteArray("/a.jpg\n\0\0\0\n", 11), QByteArray("/a.jpg\n\xff\xfe/b.jpg\n")}) {
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(damage);
+        file.close();
+        EXPECT_TRUE(readSessionList(logs.path()).isEmpty()) << damage.toPercentEncoding().toStdString();
+    }
+}
+
+TEST(SettingsStore, DamagedStoreIsReportedAndKept) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("store.conf"));
+    const auto store = [&path](const QByteArray &content) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        const QSettings settings(path, QSettings::IniFormat);
+        reportSettingsStore(settings);
+        return settings.value(QStringLiteral("a")).toInt();
+    };
+    EXPECT_EQ(store("[General]\na=1\n"), 1);
+    EXPECT_FALSE(QFile::exists(path + QStringLiteral(".damaged"))) << "nothing is wrong with it";
+    const QByteArray damaged = "[General]\na=1\n[broken\n\xff\xfe\n";
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(store(damaged), 1) << "what can be read stands";
+        QFile kept(path + QStringLiteral(".damaged"));
+        ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+        EXPECT_EQ(kept.readAll(), damaged);
+    }
 }
 
 TEST(Session, ExportingTellsOnlyOfChanges) {

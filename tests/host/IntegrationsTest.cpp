@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -81,6 +82,23 @@ TEST_F(Integrations, ImagesArriveOnceTheWindowIsThere) {
     for (const QString &data : {u""_s, u"{}"_s, u"[1, null, {}]"_s, u"\u0000"_s})
         server.mergeInstance(data);
     EXPECT_EQ(added.size(), 2);
+}
+
+// A folder is walked elsewhere, and yet nothing overtakes it.
+TEST_F(Integrations, BatchesKeepTheirOrder) {
+    const QString deep = make(u"folder/b/deep.tif"_s);
+    const QString after = make(u"after.jpg"_s);
+    TIntegrations server({u"orvane-studio"_s, m_dir.filePath(u"folder"_s)});
+    const TIntegrations other({u"orvane-studio"_s, after});
+    QSignalSpy added(&server, &TIntegrations::pluginImagesAdded);
+    server.start();
+    server.mergeInstance(other.getDataForMerging());
+    EXPECT_EQ(added.size(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&added] { return added.size() == 2; }, 60000));
+    EXPECT_EQ(added.value(0), (QVariantList{QStringList{deep}, false}));
+    EXPECT_EQ(added.value(1), (QVariantList{QStringList{after}, true}));
+    server.mergeInstance(other.getDataForMerging());
+    EXPECT_EQ(added.size(), 3) << "files alone are taken at once";
 }
 
 } // namespace

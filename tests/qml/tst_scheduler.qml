@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import LogLines
 import imageenhance
 
 TestCase {
@@ -18,6 +19,9 @@ TestCase {
     property rect crop: Qt.rect(0, 0, 1, 1)
     property real rotation: 0
 
+    LogLines {
+        id: log
+    }
     FakeEngine {
         id: engine
         onParamsChanged: scheduler.paramsChanged()
@@ -80,8 +84,30 @@ TestCase {
         controls.currentControls = { changesCount: 1 };
         controls.calls = [];
         engine.procResult = { requestUid: 0 };
-        wait(0);
+        settle();
         engine.calls = [];
+    }
+
+    // Until all that was deferred has happened: each link of the chain is deferred in the turn of the one before.
+    function settle(): void {
+        let turns = 0;
+        const next = () => {
+            if (++turns < 6)
+                Qt.callLater(() => next());
+        };
+        next();
+        tryVerify(() => turns === 6, 60000);
+    }
+
+    // Another size of the output changes the region that is seen, which the preview tells a turn later.
+    function test_settings_that_change_the_view_make_one_request(): void {
+        engine.paramsChanged();
+        Qt.callLater(() => {
+            preview.procRoi = Qt.rect(0, 0, 200, 150);
+            scheduler.viewChanged(preview.procRoi);
+        });
+        settle();
+        compare(engine.requests().map(call => call.roi), [Qt.rect(0, 0, 200, 150)]);
     }
 
     function test_burst_makes_one_request(): void {
@@ -91,7 +117,7 @@ TestCase {
             scheduler.requestFrom("right panel");
         }
         compare(engine.calls.length, 0);
-        wait(0);
+        _case.settle();
         compare(engine.calls.length, 2);
         compare(engine.calls[0], "cancel");
         compare(engine.calls[1].roi, preview.procRoi);
@@ -99,7 +125,7 @@ TestCase {
     }
 
     function test_gates_data(): var {
-        const covered = { requestUid: 7, changesCount: 1, requestRoi: Qt.rect(0, 0, 500, 500) };
+        const covered = { requestUid: 7, changesCount: 1, requestRoi: Qt.rect(0, 0, 500, 500), filepath: "/a.jpg" };
         return [
             { tag: "open", requests: 1 },
             { tag: "loading", flag: "loading", requests: 0 },
@@ -109,6 +135,7 @@ TestCase {
             { tag: "covered", result: covered, requests: 0 },
             { tag: "covered, but older settings", result: Object.assign({}, covered, { changesCount: 0 }), requests: 1 },
             { tag: "beyond the last region", result: Object.assign({}, covered, { requestRoi: Qt.rect(10, 0, 500, 500) }), requests: 1 },
+            { tag: "covered, but of another image", result: Object.assign({}, covered, { filepath: "/b.jpg" }), requests: 1 },
             { tag: "no result yet", result: Object.assign({}, covered, { requestUid: 0 }), requests: 1 }
         ];
     }
@@ -124,6 +151,31 @@ TestCase {
         compare(engine.calls.includes("cancel"), row.requests > 0);
     }
 
+    // All of them are shut; each that opens leaves the word to the next.
+    function test_gates_speak_in_their_order(): void {
+        loading = autopilotRunning = exporting = true;
+        imageOpen = false;
+        controls.currentControls = { changesCount: 1, Enhance: { params: { updated: true } } };
+        engine.procResult = { requestUid: 7, changesCount: 1, requestRoi: Qt.rect(0, 0, 500, 500), filepath: "/a.jpg" };
+        const gates = [
+            { line: "[PROC] Ignoring proc call while running loading image", open: () => _case.loading = false },
+            { line: "[PROC] Ignoring proc call while running AP", open: () => _case.autopilotRunning = false },
+            { line: "[PROC] Ignoring proc call while exporting", open: () => _case.exporting = false },
+            { line: "Skipping proc due to update flag on Enhance", open: () => controls.currentControls = { changesCount: 1 } },
+            { line: "Skipping proc due to previous proc already covering new roi", open: () => engine.procResult = { requestUid: 0 } },
+            { line: "[PROC] Ignoring proc call without an image", open: () => _case.imageOpen = true },
+            { line: "[PROC] Cancelling old proc due to new request,[PROC] Starting proc" }
+        ];
+        for (const gate of gates) {
+            compare(engine.calls.length, 0);
+            log.begin();
+            scheduler.procCurrentRoi();
+            compare(log.end().join(","), gate.line);
+            gate.open?.();
+        }
+        compare(engine.requests().length, 1);
+    }
+
     function test_drag_of_a_slider_makes_one_request_at_release(): void {
         pressed = true;
         for (let i = 0; i < 10; ++i) {
@@ -133,12 +185,12 @@ TestCase {
         compare(engine.calls.length, 0);
         verify(scheduler.queuedProc);
         pressed = false;
-        wait(0);
+        settle();
         compare(engine.requests().length, 1);
         verify(!scheduler.queuedProc);
         pressed = true;
         pressed = false;
-        wait(0);
+        settle();
         compare(engine.requests().length, 1, "a click that changed nothing asks for nothing");
     }
 
@@ -166,7 +218,7 @@ TestCase {
     function test_changed_settings_that_ask_for_nothing(row): void {
         row.set();
         engine.paramsChanged();
-        wait(0);
+        settle();
         compare(engine.calls.length, 0);
     }
 
@@ -182,7 +234,7 @@ TestCase {
     function test_changed_view_that_asks_for_nothing(row): void {
         row.set?.();
         scheduler.viewChanged(row.roi ?? preview.procRoi);
-        wait(0);
+        settle();
         compare(engine.calls.length, 0);
     }
 

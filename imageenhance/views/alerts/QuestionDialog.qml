@@ -7,6 +7,7 @@ PbDialog {
 
     required property string confirmText
 
+    height: implicitHeight
     buttons: [
         {
             type: PbButton.Type.Secondary,

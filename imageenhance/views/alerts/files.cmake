@@ -2,5 +2,9 @@ list(APPEND STUDIO_QML
   views/alerts/ClosingQuestions.qml
   views/alerts/NoticeDialog.qml
   views/alerts/QuestionDialog.qml
+  views/alerts/ToastCountdown.qml
+  views/alerts/ToastList.qml
+  views/alerts/ToastView.qml
+  views/alerts/Toaster.qml
   views/alerts/WindowNotices.qml
 )

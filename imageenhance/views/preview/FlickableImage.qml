@@ -32,11 +32,9 @@ Item {
     readonly property rect roi: _private.rect(Viewport.roi(visiblePart, actualImageSize))
     readonly property rect boundingRect: _private.rect(Viewport.boundingRect(visiblePart, actualImageSize, cropRect, cropRotation))
     readonly property bool animating: _glide.running
-    readonly property alias needsRecenter: _private.placing
     readonly property bool panning: _flick.moving || _flick.dragging
     readonly property bool pressed: _pointer.pressed
     readonly property bool showOriginal: panning || pressed
-    readonly property bool complete: _image.complete
 
     signal wheelTurned(real delta)
     signal rightClicked(point windowPoint)
@@ -50,7 +48,7 @@ Item {
         _glide.stop();
         _flick.cancelFlick();
         if (animate && animateMovement) {
-            _glide.start(target);
+            _glide.glideTo(target.x, target.y);
             return;
         }
         _flick.contentX = target.x;
@@ -87,8 +85,6 @@ Item {
         onContentYChanged: if (_top.panning || _top.animating) _private.noteCentre()
 
         TSelectionPreview {
-            id: _image
-
             width: _flick.contentWidth
             height: _flick.contentHeight
             imageData: _top.imageData
@@ -116,29 +112,9 @@ Item {
         }
     }
 
-    ParallelAnimation {
+    PictureGlide {
         id: _glide
-
-        function start(target: var): void {
-            _x.to = target.x;
-            _y.to = target.y;
-            restart();
-        }
-
-        NumberAnimation {
-            id: _x
-            target: _flick
-            property: "contentX"
-            duration: 250
-            easing.type: Easing.InOutQuad
-        }
-        NumberAnimation {
-            id: _y
-            target: _flick
-            property: "contentY"
-            duration: 250
-            easing.type: Easing.InOutQuad
-        }
+        flick: _flick
     }
 
     QtObject {

@@ -6,9 +6,13 @@ list(APPEND STUDIO_QML
   views/preview/ImagePreviewState.qml
   views/preview/ImageZoomControl.qml
   views/preview/PanningLink.qml
+  views/preview/PictureGlide.qml
   views/preview/PicturePair.qml
   views/preview/PreviewControls.qml
+  views/preview/PreviewMoves.qml
   views/preview/PreviewPointer.qml
+  views/preview/PreviewSource.qml
+  views/preview/PreviewStage.qml
   views/preview/SingleImageView.qml
   views/preview/ZoomList.qml
 )

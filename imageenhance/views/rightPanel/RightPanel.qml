@@ -23,7 +23,11 @@ Rectangle {
     readonly property int navigatorWidth: fullWidth
     readonly property bool saveButtonActive: false
 
+    readonly property alias fileSize: _private.fileSize // of a save with the present settings; 0 when unknown
+    readonly property alias fileSizeError: _private.fileSizeError
+
     signal requestProc // the filter order changed
+    signal estimateFileSize
 
     function readyToAddFilters(): void {
         if (editMode === RightPanel.EditMode.None)
@@ -41,6 +45,19 @@ Rectangle {
 
     function showSteps(steps: var): void {
         _private.steps = steps;
+    }
+
+    // Of the picture before it is enlarged.
+    function updateFileSizeEstimate(fileSize: real): void {
+        const enhance = controls.currentControls["Enhance"];
+        const scale = enhance?.enabled ? enhance.params?.scale ?? 1 : 1;
+        _private.fileSize = fileSize * scale * scale;
+        _private.fileSizeError = "";
+    }
+
+    function fileSizeEstimateError(why: string): void {
+        _private.fileSize = 0;
+        _private.fileSizeError = why;
     }
 
     width: collapsed ? collapsedWidth : fullWidth
@@ -83,6 +100,8 @@ Rectangle {
 
         property int editMode: RightPanel.EditMode.None
         property var steps: []
+        property real fileSize: 0
+        property string fileSizeError: ""
 
         function takeNavigator(): void {
             if (_top.navigator)

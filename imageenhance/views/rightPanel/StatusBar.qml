@@ -74,7 +74,7 @@ Rectangle {
 
         x: _private.expanded ? PebbleStyle.size.spacing : Math.round((_top.foldedWidth - PebbleStyle.size.icon) / 2)
         anchors.verticalCenter: parent.verticalCenter
-        spacing: _indicator.visible ? PebbleStyle.size.spacingSmall : 0
+        spacing: PebbleStyle.size.spacingSmall
 
         StatusIndicator {
             id: _indicator
@@ -86,6 +86,11 @@ Rectangle {
             text: _rules.caption
             color: _top._completed ? PebbleStyle.color.alwaysDark : PebbleStyle.color.textAlwaysLight
             opacity: _private.expanded ? 1 : 0
+            anchors.verticalCenter: parent.verticalCenter
+        }
+        StatusHelp {
+            visible: _rules.state === ProgressState.ModelError && _rules.status === ""
+            error: _rules.caption
             anchors.verticalCenter: parent.verticalCenter
         }
     }

@@ -37,6 +37,7 @@ AbstractButton {
     contentItem: Item {
         Column {
             anchors.centerIn: parent
+            width: parent.width - 2 * PebbleStyle.size.spacingLarge
             spacing: PebbleStyle.size.spacingLarge
 
             PbIcon {
@@ -46,7 +47,10 @@ AbstractButton {
                 color: PebbleStyle.color.textSecondary
             }
             PbLabel {
-                anchors.horizontalCenter: parent.horizontalCenter
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+                elide: Text.ElideNone
                 type: PbLabel.Type.Heading
                 text: qsTr("Drag and drop images or folder to start editing")
             }

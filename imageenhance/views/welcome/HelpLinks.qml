@@ -2,12 +2,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import PebbleUI
+import "../../utils/support.mjs" as Support
 
 // Where help is found.
 ColumnLayout {
     id: _top
 
-    readonly property string site: "https://orvane.example/studio/"
     readonly property var links: [
         {
             title: qsTr("Getting started"),
@@ -60,7 +60,7 @@ ColumnLayout {
             title: modelData.title
             note: modelData.text
             iconSource: modelData.icon
-            onClicked: _top.openUrl(_top.site + modelData.page)
+            onClicked: _top.openUrl(Support.page(modelData.page))
             Layout.fillWidth: true
         }
     }

@@ -55,7 +55,13 @@ AbstractButton {
                 autoTransform: true
                 fillMode: Image.PreserveAspectCrop
                 sourceSize: Qt.size(_top.decodeLimit, _top.decodeLimit)
-                source: _top.imageUtils.stringToUrl(_top.thumbnail !== "" ? _top.thumbnail : _top.path)
+                source: _top.imageUtils.stringToUrl(_top.thumbnail !== "" && !_private.damaged ? _top.thumbnail : _top.path)
+                onStatusChanged: {
+                    if (status !== Image.Error || _top.thumbnail === "" || _private.damaged)
+                        return;
+                    console.warn("Damaged thumbnail of", _top.path);
+                    _private.damaged = true;
+                }
                 layer.enabled: true
                 layer.effect: MultiEffect {
                     maskEnabled: true
@@ -81,6 +87,13 @@ AbstractButton {
             elide: Text.ElideMiddle
             Accessible.ignored: true
         }
+    }
+
+    onThumbnailChanged: _private.damaged = false
+
+    QtObject {
+        id: _private
+        property bool damaged: false // the thumbnail; the file itself is shown in its place
     }
 
     PbHoverTip {

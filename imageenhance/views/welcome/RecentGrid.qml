@@ -12,7 +12,12 @@ ColumnLayout {
     required property var recentFiles
     required property var imageUtils
 
-    readonly property int shown: 6
+    readonly property int maxRows: 3
+    readonly property int cellHeight: 132
+    readonly property int cellMinimum: 80
+    // A low window shows fewer and lower cells, whole ones always.
+    readonly property real gridRoom: height - _heading.height - spacing
+    readonly property int rows: Math.max(1, Math.min(maxRows, Math.ceil(recentFiles.length / 2), Math.floor((gridRoom + _grid.rowSpacing) / (cellMinimum + _grid.rowSpacing))))
 
     signal openRecentFile(string path)
     signal clearRecentFiles
@@ -20,6 +25,8 @@ ColumnLayout {
     spacing: PebbleStyle.size.spacingLarge
 
     RowLayout {
+        id: _heading
+
         PbLabel {
             type: PbLabel.Type.Heading
             text: qsTr("Recent")
@@ -41,12 +48,14 @@ ColumnLayout {
     }
 
     GridLayout {
+        id: _grid
+
         columns: 2
         columnSpacing: PebbleStyle.size.spacingLarge
         rowSpacing: PebbleStyle.size.spacingLarge
 
         Repeater {
-            model: _top.recentFiles.slice(0, _top.shown)
+            model: _top.recentFiles.slice(0, 2 * _top.rows)
 
             RecentCell {
                 required property string modelData
@@ -56,7 +65,7 @@ ColumnLayout {
                 imageUtils: _top.imageUtils
                 onClicked: _top.openRecentFile(path)
                 Layout.preferredWidth: (_top.width - PebbleStyle.size.spacingLarge) / 2
-                Layout.preferredHeight: 132
+                Layout.preferredHeight: Math.min(_top.cellHeight, (_top.gridRoom - (_top.rows - 1) * _grid.rowSpacing) / _top.rows)
             }
         }
     }

@@ -43,6 +43,9 @@ Rectangle {
                 onClearRecentFiles: _top.clearRecentFiles()
                 Layout.fillWidth: true
                 Layout.fillHeight: true
+                // What the links leave, whatever the cells would like.
+                Layout.minimumHeight: 0
+                Layout.preferredHeight: 0
             }
             HelpLinks {
                 onOpenUrl: url => _top.openUrl(url)
