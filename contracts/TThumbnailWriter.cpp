@@ -52,6 +52,13 @@ void TThumbnailWriter::setImageDatas(const QVariantList &imageDatas) {
     Q_EMIT imageDatasChanged();
 }
 
+void TThumbnailWriter::setImageData(int index, const QVariantMap &imageData) {
+    if (index < 0 || index >= m_imageDatas.size() || m_imageDatas.at(index) == imageData)
+        return;
+    m_imageDatas[index] = imageData;
+    Q_EMIT imageDatasChanged();
+}
+
 void TThumbnailWriter::setStartIndex(int index) {
     setIndex(m_startIndex, index, &TThumbnailWriter::startIndexChanged);
 }

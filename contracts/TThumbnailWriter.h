@@ -27,6 +27,8 @@ public:
     /// Maps with `filepath` and, once there is one, `thumbnail`.
     QVariantList imageDatas() const { return m_imageDatas; }
     void setImageDatas(const QVariantList &imageDatas);
+    /// Replaces one of them; there may be thousands, and one is what changes most.
+    Q_INVOKABLE void setImageData(int index, const QVariantMap &imageData);
     /// The images in view: first and last index, both included; a negative last one means the end of
     /// the list.
     int startIndex() const { return m_startIndex; }

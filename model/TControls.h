@@ -73,6 +73,8 @@ public:
     Q_INVOKABLE void cleanupThumbnails();
     Q_INVOKABLE QVariantMap getControls(qint64 index) const;
     Q_INVOKABLE QVariantMap getImageData(qint64 index) const;
+    /// That of every open image, in their order.
+    Q_INVOKABLE QVariantList allImageData() const;
     Q_INVOKABLE void setThumbnail(qint64 index, const QString &thumbnail);
     /// The number of image records.
     Q_INVOKABLE int size() const { return int(m_imageSettings.size()); }

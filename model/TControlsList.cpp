@@ -164,6 +164,13 @@ QVariantMap TControls::getImageData(qint64 index) const {
     return m_imageData.value(pathAt(index));
 }
 
+QVariantList TControls::allImageData() const {
+    QVariantList all;
+    for (const QString &path : m_loadedImages.list())
+        all.append(m_imageData.value(path));
+    return all;
+}
+
 void TControls::setThumbnail(qint64 index, const QString &thumbnail) {
     const auto data = m_imageData.find(pathAt(index));
     if (!m_loadedImages.holdsIndex(index) || thumbnail.isEmpty() || data == m_imageData.end())

@@ -24,8 +24,9 @@ protected:
                 files->add(path);
             list << QVariantMap{{u"filepath"_s, path}};
         }
-        list[4] = QVariantMap{{u"filepath"_s, u"/4.jpg"_s}, {u"thumbnail"_s, u"/has one"_s}};
         writer->setImageDatas(list);
+        writer->setImageData(4, {{u"filepath"_s, u"/4.jpg"_s}, {u"thumbnail"_s, u"/has one"_s}});
+        writer->setImageData(6, {{u"filepath"_s, u"/closed meanwhile.jpg"_s}});
         QObject::connect(writer.get(), &TThumbnailWriter::thumbnailWritten, writer.get(),
                          [this](int index, const QString &path, const QString &thumbnail) {
                              EXPECT_EQ(path, u"/%1.jpg"_s.arg(index));
