@@ -34,7 +34,7 @@ TEST_F(WindowRun, UnusableFilesAreReportedAndTheRestOpens) {
                            [&] { return log().contains("Could not load image: " + vanishing.toUtf8()); }));
     EXPECT_TRUE(waitForSession({inFolder, good}));
     EXPECT_TRUE(waitForLog("Loading file: " + good.toUtf8()));
-    EXPECT_EQ(pressUntilEnd({u"Escape"_s, u"alt+F4"_s, u"Return"_s}), 0);
+    EXPECT_EQ(pressUntilEnd({u"alt+F4"_s, u"Return"_s, u"Escape"_s}), 0);
 }
 
 TEST_F(WindowRun, ThousandsOfFilesOpenAtOnce) {
@@ -53,6 +53,7 @@ TEST_F(WindowRun, ThousandsOfFilesOpenAtOnce) {
     EXPECT_TRUE(
         pressUntil({u"Right"_s}, [&] { return log().contains("Loading file: " + files[1].toUtf8()); }));
     EXPECT_TRUE(pressUntil({u"ctrl+w"_s}, [&] { return session().size() < Count; })) << "one image closes";
+    EXPECT_LT(longestBlock(), BlockedMs);
     EXPECT_EQ(pressUntilEnd({u"alt+F4"_s, u"Return"_s}), 0);
 }
 
@@ -88,7 +89,7 @@ TEST_F(WindowRun, SpoiltStateIsPassedOver) {
         EXPECT_TRUE(waitForLog("Main window loaded"));
         ASSERT_TRUE(waitForLog("Loading file: " + good.toUtf8()));
         EXPECT_TRUE(waitForSession({good}));
-        EXPECT_EQ(pressUntilEnd({u"Escape"_s, u"alt+F4"_s, u"Return"_s}), 0);
+        EXPECT_EQ(pressUntilEnd({u"alt+F4"_s, u"Return"_s, u"Escape"_s}), 0);
         ASSERT_TRUE(QFile::remove(settingsFile()));
     }
 }

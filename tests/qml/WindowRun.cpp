@@ -6,9 +6,12 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QThread>
 
+#include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
@@ -32,6 +35,7 @@ WindowRun::WindowRun() {
     surroundings.insert(u"XDG_DATA_DIRS"_s, home.filePath(u"data"_s));
     surroundings.insert(u"XDG_RUNTIME_DIR"_s, home.filePath(u"run"_s));
     surroundings.insert(u"TMPDIR"_s, home.filePath(u"tmp"_s));
+    surroundings.insert(u"ORVANE_GUI_WATCH"_s, u"1"_s);
     QFile::setPermissions(home.filePath(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_process.setProcessEnvironment(surroundings);
     m_process.setProcessChannelMode(QProcess::MergedChannels);
@@ -185,6 +189,16 @@ bool WindowRun::pressUntil(const QStringList &names, const std::function<bool()>
 int WindowRun::pressUntilEnd(const QStringList &names) {
     pressUntil(names, [this] { return !isRunning(); });
     return waitForEnd();
+}
+
+double WindowRun::longestBlock() const {
+    static const QRegularExpression report(u"\\[WATCH\\] frames .* computing ([0-9.]+) "_s);
+    double longest = 0;
+    const QString text = QString::fromUtf8(log());
+    for (const QRegularExpressionMatch &match : report.globalMatch(text))
+        longest = std::max(longest, match.captured(1).toDouble());
+    std::printf("computing in the way of an event, 99 %% of the worst second: %.1f ms\n", longest);
+    return longest;
 }
 
 int WindowRun::waitForEnd() {

@@ -16,6 +16,9 @@ TEST_F(WindowRun, PictureIsReadAnalysedAndProcessed) {
     EXPECT_EQ(log().count("[PROC] Proc finished"), 1) << "one answer for a new picture";
     EXPECT_TRUE(waitUntil([&] { return setting(u"recentFiles"_s).toStringList() == QStringList(path); }));
 
+    EXPECT_TRUE(waitForLog("[WATCH] frames"));
+    EXPECT_LT(longestBlock(), BlockedMs);
+
     // The first close asks, because there are changes; Return gives the answer that closes.
     ASSERT_TRUE(keys({u"alt+F4"_s}));
     EXPECT_TRUE(isRunning());
