@@ -27,6 +27,9 @@ QString nameOf(Autopilot::Level level);
 /// The preferences count strengths from 0, very weak, over 3, normal, to 4, strong.
 double strengthFactor(int strength);
 
+/// Where the sliders of strengths begin.
+inline constexpr double SmallestStrength = 0.01;
+
 /// One category's recommendation.
 struct Advice {
     QString category;
@@ -56,6 +59,9 @@ Advice adviseColour(const AdviceInput &input);
 /// For pictures with little noise and little blur of which both would be treated: one treatment is
 /// enough, and which one, the user may have said. Switches the other off.
 void settleConflict(const AdviceInput &input, Advice &noise, Advice &sharpen);
+
+/// Denoise runs first and leaves nothing that Sharpen would have to take away.
+void leaveToDenoising(const Advice &noise, Advice &sharpen);
 
 /// Upscaling treats moderate noise and blur itself: switches the filters off that would do so.
 void leaveToUpscaling(const AdviceInput &input, const Advice &size, Advice &noise, Advice &sharpen);

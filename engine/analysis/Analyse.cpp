@@ -23,6 +23,15 @@ void settleConflict(const AdviceInput &input, Advice &noise, Advice &sharpen) {
                              : QStringLiteral("Sharpening comes before the little noise");
 }
 
+void leaveToDenoising(const Advice &noise, Advice &sharpen) {
+    if (!noise.enabled)
+        return;
+    for (auto [key, value] : sharpen.parameters.asKeyValueRange()) {
+        if (key == QStringLiteral("param1") || key.endsWith(QStringLiteral("_noise")))
+            value = SmallestStrength;
+    }
+}
+
 void leaveToUpscaling(const AdviceInput &input, const Advice &size, Advice &noise, Advice &sharpen) {
     using Autopilot::Level;
     if (!size.enabled || size.parameters.value(QStringLiteral("scale")).toDouble() <= 1)
@@ -85,6 +94,7 @@ AutopilotAnswer analyseImage(const EngineInput &input, const ImageStatistics &st
     Advice sharpen = adviseSharpen(advised);
     settleConflict(advised, noise, sharpen);
     leaveToUpscaling(advised, adviseSize(advised, false, false), noise, sharpen);
+    leaveToDenoising(noise, sharpen);
     const Advice size = adviseSize(advised, noise.enabled, sharpen.enabled);
 
     QVariantMap reasons;

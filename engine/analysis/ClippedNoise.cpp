@@ -1,6 +1,7 @@
 #include "engine/analysis/ClippedNoise.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -16,38 +17,47 @@ double below(double z) {
     return 0.5 * std::erfc(-z / std::numbers::sqrt2);
 }
 
+/// Of noise with deviation 1 about a level, cut off at 0.
 struct Moments {
     double mean = 0;
-    double deviation = 0;
+    double variance = 1;
 };
 
-Moments clipped(double level, double sigma) {
-    const double a = -level / sigma;
-    const double b = (1 - level) / sigma;
-    const double inside = below(b) - below(a);
-    const double above = 1 - below(b);
-    const double first = level * inside + sigma * (density(a) - density(b)) + above;
-    const double second = (level * level + sigma * sigma) * inside +
-                          2 * level * sigma * (density(a) - density(b)) +
-                          sigma * sigma * (a * density(a) - b * density(b)) + above;
-    return {first, std::sqrt(std::max(0.0, second - first * first))};
+Moments cutOff(double level) {
+    const double inside = below(level);
+    const double mean = level * inside + density(level);
+    const double square = (level * level + 1) * inside + level * density(level);
+    return {mean, square - mean * mean};
+}
+
+constexpr std::size_t Steps = 100;
+constexpr double Farthest = 5; ///< deviations from the limit at which nothing is lost
+
+std::array<Moments, Steps + 1> makeTable() {
+    std::array<Moments, Steps + 1> table;
+    for (std::size_t i = 0; i <= Steps; ++i)
+        table[i] = cutOff(double(i) * Farthest / double(Steps));
+    return table;
 }
 
 } // namespace
 
-float unclippedDeviation(float mean, float deviation) {
-    const double room = std::min<double>(mean, 1 - mean);
-    if (deviation <= 0 || room > 4 * double(deviation))
-        return deviation;
-    // Fixed point: each turn moves level and sigma by what clipping took from them.
-    double level = std::clamp<double>(mean, 0, 1);
-    double sigma = deviation;
-    for (int turn = 0; turn < 60; ++turn) {
-        const Moments now = clipped(level, sigma);
-        level = std::clamp(level + (mean - now.mean), 0.0, 1.0);
-        sigma = std::min(1.0, sigma * std::clamp(deviation / std::max(now.deviation, 1e-9), 0.5, 2.0));
-    }
-    return float(sigma);
+float keptShare(float mean, float sigma) {
+    static const std::array<Moments, Steps + 1> table = makeTable();
+    const double room = double(std::min(mean, 1 - mean));
+    if (room >= Farthest * double(sigma))
+        return 1;
+    // Noise so strong that both limits cut it counts as cut by the nearer one.
+    const double seen = room / double(sigma);
+    const auto above = std::lower_bound(table.begin(), table.end(), seen,
+                                        [](const Moments &m, double value) { return m.mean < value; });
+    if (above == table.begin())
+        return float(above->variance);
+    if (above == table.end())
+        return 1;
+    const Moments &a = *std::prev(above);
+    const Moments &b = *above;
+    return float(a.variance + (seen - a.mean) / (b.mean - a.mean) * (b.variance - a.variance));
 }
 
 } // namespace Analysis

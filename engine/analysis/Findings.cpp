@@ -61,11 +61,10 @@ Findings findingsOf(const ImageStatistics &statistics) {
     if (statistics.edgeShare < Thresholds::FewestEdges)
         return findings;
     findings.blur = statistics.blur;
-    findings.motion = statistics.motionBlur && statistics.motionLength >= Thresholds::MotionLength &&
-                      statistics.edgeShare >= Thresholds::MotionEdges;
-    // A smear is as wide as a box of its length in one direction, and nothing in the other.
+    findings.motion = statistics.motionBlur && statistics.motionLength >= Thresholds::MotionLength;
+    // The deviation of a box, which is what a smear is in its own direction.
     if (findings.motion)
-        findings.blur = std::max(findings.blur, double(statistics.motionLength) / std::sqrt(24.0));
+        findings.blur = std::max(findings.blur, double(statistics.motionLength) / std::sqrt(12.0));
     findings.blurLevel = levelOfBlur(findings.blur);
     return findings;
 }

@@ -8,14 +8,13 @@ namespace Analysis {
 
 namespace {
 
-constexpr double SmallestStrength = 0.01;
 constexpr double CoarseGrain = 0.6; ///< grain of this size, in pixels, survives removal of fine noise
 /// Deviation of the luma of noise that is independent in the channels, as a share of theirs.
 constexpr double LumaShare = 0.669;
-/// The denoising models expect white noise. Correlated noise puts its power where they look for
-/// detail, and needs this much more; found by trying against clean originals.
-constexpr double GrainWeight = 2.2;
-constexpr double MostForGrain = 3;
+/// Strengths mean the deviation of white noise. Correlated noise puts its power where detail is, is
+/// measured a tenth too low, and takes a little more.
+constexpr double GrainWeight = 0.5;
+constexpr double MostForGrain = 1.5;
 
 /// The white noise, independent in the channels, that takes the same strength to remove.
 double equivalentNoise(const AdviceInput &input) {

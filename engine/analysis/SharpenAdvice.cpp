@@ -9,10 +9,11 @@ namespace Analysis {
 
 namespace {
 
-constexpr double SmallestStrength = 0.01;
 constexpr double MostDenoise = 15; ///< noise that the sharpening models take away at full strength
-/// Every lens and every reduction leaves edges this wide; sharpening is for what exceeds it.
-constexpr double NaturalBlur = 0.5;
+/// Clean photographs have edges this wide; sharpening is for what exceeds it.
+constexpr double NaturalBlur = 0.3;
+/// The sharpest edges are measured; blur that lies evenly on a photograph is this much wider.
+constexpr double Typical = 1.1;
 
 /// A sharpening type as the preferences and the sliders know it.
 struct Type {
@@ -53,8 +54,9 @@ QString wantedType(const AdviceInput &input) {
         return wanted;
     if (input.findings.motion)
         return QStringLiteral("motionblur");
-    return input.findings.blur > 0.9 * StrengthScale::sharpenStandard.maximum ? QStringLiteral("strong")
-                                                                              : QStringLiteral("standard");
+    return Typical * input.findings.blur > StrengthScale::sharpenStandard.maximum
+               ? QStringLiteral("strong")
+               : QStringLiteral("standard");
 }
 
 } // namespace
@@ -64,7 +66,7 @@ Advice adviseSharpen(const AdviceInput &input) {
     const double factor = strengthFactor(input.preferences.sharpenStrength);
     const double found = input.findings.blur;
     const double excess = std::sqrt(std::max(0.0, found * found - NaturalBlur * NaturalBlur));
-    const double blur = factor * std::max(excess, Thresholds::RestingBlur);
+    const double blur = factor * std::max(Typical * excess, Thresholds::RestingBlur);
     const double noise = std::clamp(input.findings.noise / MostDenoise, SmallestStrength, 1.0);
 
     Advice advice;

@@ -8,7 +8,6 @@ namespace Analysis {
 
 namespace {
 
-constexpr double SmallestStrength = 0.01;
 constexpr double MostDenoise = 25;  ///< noise that the upscaling models take away at full strength
 constexpr double MostDeblur = 1.2;  ///< sigma of the blur that they take back
 constexpr double NaturalBlur = 0.5; ///< what needs no deblurring

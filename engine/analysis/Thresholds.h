@@ -3,15 +3,16 @@
 /// Every number that turns a measurement into a recommendation, with its reason. Noise is a
 /// standard deviation on the 8-bit scale, blur a Gaussian sigma in pixels.
 ///
-/// "Photographs" below are desktop photographs reduced to between a third and a half, which takes
-/// compression away: they measure 0 to 2.3 in noise and 0 to 1.25 in blur.
+/// "Photographs" below are 48 desktop photographs reduced to between a third and three fifths, which
+/// takes compression away: they measure 0 to 3.4 in noise, 2.4 and less but for one with grain, and 0.2 to
+/// 1.25 in blur. `orvane-bench autopilot` prints these figures and what follows from the thresholds.
 namespace Thresholds {
 
 // Noise levels. Low starts where noise can be seen in a smooth sky at 100 %.
 inline constexpr double NoiseLow = 1.7;
-/// Well above what any clean photograph measures; taking noise of this strength away
-/// gains more than 3 dB.
-inline constexpr double NoiseMedium = 3.2;
+/// Above what 98 of 100 clean photographs measure; taking noise of this strength away gains 2 dB and
+/// more.
+inline constexpr double NoiseMedium = 2.8;
 /// Noise hides fine texture: ISO 3200 and more on a small sensor.
 inline constexpr double NoiseHigh = 12;
 /// Noise hides edges of low contrast.
@@ -19,19 +20,19 @@ inline constexpr double NoiseSevere = 25;
 /// The normal model's scale ends at 50; past this, its slider would have no room to go up.
 inline constexpr double NoiseExtreme = 45;
 
-// Blur levels. Below Low, edges are as narrow as a good lens and a sensor give them.
-inline constexpr double BlurLow = 1.0;
-/// Above the softest clean photograph (1.25).
-inline constexpr double BlurMedium = 1.35;
+// Blur levels. Below Low, edges are as narrow as a good lens and a sensor give them: blurred by one
+// pixel, photographs measure 0.85.
+inline constexpr double BlurLow = 0.85;
+/// Above the softest clean photograph; most that were blurred by 1.6 pixels measure more, and all that
+/// were blurred by 2.5.
+inline constexpr double BlurMedium = 1.25;
 /// Detail of five pixels and less is gone.
 inline constexpr double BlurHigh = 2.5;
 /// Fewer edge pixels than this share tell nothing about sharpness: fog, sky, a blank wall.
 inline constexpr double FewestEdges = 0.002;
-/// A smear of this length in pixels turns Sharpen on though edges along it are sharp. Shorter ones
-/// are found in clean photographs of grass and facades.
-inline constexpr double MotionLength = 12;
-/// And more edges than this, or a calm sea passes for a smear.
-inline constexpr double MotionEdges = 0.02;
+/// A smear of this length in pixels is as wide as blur from which on Sharpen is proposed (times the
+/// root of twelve), and turns it on though edges along the smear are sharp.
+inline constexpr double MotionLength = 4.5;
 
 // The scale that the view of a running analysis reads: these values there begin a level.
 inline constexpr double ShownNoiseMedium = 0.09;

@@ -6,11 +6,13 @@ set(ORVANE_ANALYSIS_SOURCES
   analysis/Blur.cpp analysis/Blur.h
   analysis/ClippedNoise.cpp analysis/ClippedNoise.h
   analysis/Compression.cpp analysis/Compression.h
+  analysis/EdgeWidths.cpp analysis/EdgeWidths.h
   analysis/Findings.cpp
   analysis/ImageStatistics.cpp analysis/ImageStatistics.h
   analysis/Motion.cpp analysis/Motion.h
   analysis/Noise.cpp analysis/Noise.h
   analysis/NoiseAdvice.cpp
+  analysis/NoiseVariance.cpp analysis/NoiseVariance.h
   analysis/Planes.cpp analysis/Planes.h
   analysis/Sampling.cpp analysis/Sampling.h
   analysis/SharpenAdvice.cpp

@@ -1,5 +1,6 @@
 #include "engine/analysis/Advice.h"
 #include "engine/analysis/Analyse.h"
+#include "engine/analysis/Thresholds.h"
 #include "engine/filters/StrengthScale.h"
 
 #include <gtest/gtest.h>
@@ -80,11 +81,11 @@ TEST(Advice, EachPreferenceSaysWhatItSays) {
     const Row rows[] = {
         {"clean", 0.5, 0.6, none, "Denoise", false, nullptr},
         {"clean, sharpen", 0.5, 0.6, none, "Sharpen", false, nullptr},
-        {"low noise is left by default", 2.5, 0.6, none, "Denoise", false, nullptr},
+        {"low noise is left by default", 2.2, 0.6, none, "Denoise", false, nullptr},
         {"medium noise", 6, 0.6, none, "Denoise", true, "Low Light Beta"},
         {"severe noise", 30, 0.6, none, "Denoise", true, "Severe Noise Beta"},
         {"extreme noise", 60, 0.6, none, "Denoise", true, "Severe Noise"},
-        {"low noise on request", 2.5, 0.6, levels(&P::denoiseLevels, "low,medium"), "Denoise", true, nullptr},
+        {"low noise on request", 2.2, 0.6, levels(&P::denoiseLevels, "low,medium"), "Denoise", true, nullptr},
         {"only severe noise", 15, 0.6, levels(&P::denoiseLevels, "severe"), "Denoise", false, nullptr},
         {"noise always off", 60, 0.6, levels(&P::denoiseLevels, ""), "Denoise", false, nullptr},
         {"forced model", 6, 0.6, as(&P::denoisingModel, "Severe Noise"), "Denoise", true, "Severe Noise"},
@@ -97,8 +98,8 @@ TEST(Advice, EachPreferenceSaysWhatItSays) {
         {"raw without a mosaic", 6, 0.6,
          both(raw, [](Case &c) { c.input.metadata.insert(words("linearRaw"), true); }), "RAW", true,
          "Linear RAW"},
-        {"soft is left by default", 0.5, 1.2, none, "Sharpen", false, nullptr},
-        {"soft on request", 0.5, 1.2, levels(&P::sharpenBlurs, "low"), "Sharpen", true, nullptr},
+        {"soft is left by default", 0.5, 1.0, none, "Sharpen", false, nullptr},
+        {"soft on request", 0.5, 1.0, levels(&P::sharpenBlurs, "low"), "Sharpen", true, nullptr},
         {"blurry", 0.5, 1.6, none, "Sharpen", true, "Sharpen Standard v2"},
         {"very blurry", 0.5, 3, none, "Sharpen", true, "Sharpen Strong"},
         {"only very blurry", 0.5, 2, levels(&P::sharpenBlurs, "high"), "Sharpen", false, nullptr},
@@ -180,7 +181,7 @@ TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
     EXPECT_NEAR(noisy.number("Denoise", "param1"), 20.0 / 100, 0.01);
     Case blurry = with(0.5, 1.8);
     EXPECT_EQ(blurry.number("Sharpen", "param2"), blurry.number("Sharpen", "std_blur"));
-    EXPECT_NEAR(blurry.number("Sharpen", "std_blur") * StrengthScale::sharpenStandard.maximum, 1.75, 0.1);
+    EXPECT_NEAR(blurry.number("Sharpen", "std_blur") * StrengthScale::sharpenStandard.maximum, 1.95, 0.1);
     double denoise = 0;
     double sharpen = 0;
     for (const int strength : {0, 1, 2, 3, 4}) {
@@ -191,11 +192,16 @@ TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
         denoise = noisy.number("Denoise", "param1_normalv2");
         sharpen = blurry.number("Sharpen", "stg_blur");
     }
+    // Noise is left to Sharpen only where Denoise doesn't take it first.
+    Case both = with(15, 3);
+    EXPECT_NEAR(both.number("Sharpen", "param1"), 0.01, 1e-9);
+    both.preferences().denoiseLevels = {};
+    EXPECT_NEAR(both.number("Sharpen", "param1"), 1, 1e-9);
     Case smeared = with(0.5, 0.8);
     smeared.statistics.motionBlur = true;
-    smeared.statistics.motionLength = 14;
+    smeared.statistics.motionLength = 6;
     EXPECT_TRUE(smeared.enabled("Sharpen"));
-    EXPECT_NEAR(smeared.number("Sharpen", "param2"), 14.0 / 16, 0.01);
+    EXPECT_NEAR(smeared.number("Sharpen", "param2"), StrengthScale::sharpenMotion.strength(6), 0.01);
     EXPECT_FALSE(smeared.entry("Sharpen").value(words("isLens")).toBool());
     smeared.preferences().sharpeningModel = words("lensblur");
     EXPECT_TRUE(smeared.entry("Sharpen").value(words("isLens")).toBool());
@@ -217,7 +223,7 @@ TEST(Advice, TheStatusViewReadsTheSameLevels) {
     const auto shownAsNoise = [](double v) { return v > 0.5 ? 4 : v > 0.33 ? 3 : v > 0.09 ? 2 : 1; };
     const auto shownAsBlur = [](double v) { return v > 0.37 ? 3 : v > 0.22 ? 2 : 1; };
     for (const double value :
-         {0.2, 1.0, 1.35, 1.4, 2.5, 2.6, 3.2, 4.0, 12.0, 13.0, 25.0, 26.0, 80.0, 300.0}) {
+         {0.2, 0.9, 1.25, 1.4, 2.5, 2.6, 2.8, 4.0, 12.0, 13.0, 25.0, 26.0, 80.0, 300.0}) {
         const QVariantMap problems = with(value, value).answer().problems;
         const QVariantMap shown = problems[words("ap_params")].toMap();
         const int noise = std::max(1, problems[words("noise_level")].toInt());
@@ -233,4 +239,7 @@ TEST(Advice, TheStatusViewReadsTheSameLevels) {
     EXPECT_EQ(reasons.keys(), c.answer().settings.keys());
     for (const QVariant &reason : reasons)
         EXPECT_FALSE(reason.toMap()[words("text")].toString().isEmpty());
+    const QVariantMap noise = reasons[words("Denoise")].toMap();
+    EXPECT_NEAR(noise[words("measured")].toDouble(), 0.5, 1e-6);
+    EXPECT_DOUBLE_EQ(noise[words("threshold")].toDouble(), Thresholds::NoiseMedium);
 }

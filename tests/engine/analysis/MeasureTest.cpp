@@ -35,12 +35,16 @@ TEST(Noise, WhiteNoiseIsMeasured) {
         double tolerance;
     };
     const Picture dark = tinted(scene(), {0.12f, 0.1f, 0.08f});
+    Picture onBlack = scene();
+    for (Plane &plane : onBlack)
+        std::fill(plane.values.begin(), plane.values.begin() + Width * Height / 2, 0.0f);
     const Row rows[] = {{"weak", scene(), 5, 0.05},
                         {"medium", scene(), 12, 0.05},
                         {"strong", scene(), 25, 0.05},
                         {"strong enough to clip", scene(), 50, 0.08},
                         {"flat grey", flat(256, 256, {0.5f, 0.5f, 0.5f}), 10, 0.05},
                         {"black, half of the noise cut off", flat(256, 256, {0, 0, 0}), 10, 0.15},
+                        {"half of it black", onBlack, 15, 0.08},
                         {"dark picture", dark, 20, 0.15}};
     for (const Row &row : rows) {
         SCOPED_TRACE(row.name);
@@ -79,12 +83,13 @@ TEST(Blur, WiderBlurMeasuresWider) {
         const double found = measured(blurred(scene(), sigma)).blur;
         EXPECT_GT(found, before) << sigma;
         if (sigma >= 1) {
-            EXPECT_NEAR(found / sigma, 1, 0.25) << sigma;
+            EXPECT_NEAR(found / sigma, 1, 0.4) << sigma; // bars a few pixels wide look sharper
         }
         before = found;
     }
-    const double noisyBlur = measured(noisy(blurred(scene(), 2), 6)).blur;
-    EXPECT_NEAR(noisyBlur, 2, 0.7);
+    // Noise makes fine gradients of its own; they must not pass for sharp edges.
+    EXPECT_NEAR(measured(noisy(blurred(scene(), 2), 6)).blur, 2, 0.8);
+    EXPECT_NEAR(measured(noisy(blurred(scene(), 4), 1)).blur, 4, 1.5);
 }
 
 TEST(Blur, ASmearIsToldFromSoftness) {
@@ -94,7 +99,9 @@ TEST(Blur, ASmearIsToldFromSoftness) {
         ASSERT_TRUE(s.motionBlur) << degrees;
         const double turn = std::abs(double(s.motionAngle) - angle);
         EXPECT_LT(std::min(turn, std::numbers::pi - turn), 0.25) << degrees;
-        EXPECT_GT(s.motionLength, 5) << degrees;
+        // The ramps that a smear makes of drawn edges look wider than what photographs have.
+        EXPECT_GT(s.motionLength, 8) << degrees;
+        EXPECT_LT(s.motionLength, 32) << degrees;
     }
     EXPECT_FALSE(measured(blurred(scene(), 2)).motionBlur);
     EXPECT_FALSE(measured(scene()).motionBlur);

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 
 using namespace Scenes;
 
@@ -28,37 +27,36 @@ protected:
         return all;
     }
 
-    static bool proposed(const Picture &picture, const char *category) {
+    /// Every third one, for what takes many measurements; `orvane-bench autopilot` takes more.
+    static QList<Picture> some() {
+        QList<Picture> list;
+        for (int i = 0; i < int(pictures().size()); i += 3)
+            list << pictures()[i];
+        return list;
+    }
+
+    static QStringList proposals(const Picture &picture) {
         const auto pixels = image(picture);
         EngineInput input;
         input.image = pixels;
         AutopilotOptions options;
         options.preferences.upscalingType = QStringLiteral("none");
-        return analyseImage(input, measureImage(*pixels, {}), options, {})
-            .settings.value(QString::fromLatin1(category))
-            .toMap()
-            .value(QStringLiteral("enabled"))
-            .toBool();
-    }
-
-    /// The photographs that get this proposal after being spoilt, by their places in the list.
-    static std::vector<int> proposals(const char *category,
-                                      const std::function<Picture(const Picture &)> &spoil) {
-        std::vector<int> found;
-        for (int i = 0; i < int(pictures().size()); ++i) {
-            if (proposed(spoil(pictures()[i]), category))
-                found.push_back(i);
+        const QVariantMap settings = analyseImage(input, measureImage(*pixels, {}), options, {}).settings;
+        QStringList proposed;
+        for (const auto &[category, entry] : settings.asKeyValueRange()) {
+            if (entry.toMap()[QStringLiteral("enabled")].toBool())
+                proposed << category;
         }
-        return found;
+        return proposed;
     }
 };
 
 } // namespace
 
 TEST_F(Photographs, AddedNoiseIsMeasured) {
-    for (const double sigma : {5.0, 10.0, 25.0, 50.0}) {
+    for (const double sigma : {5.0, 15.0, 50.0}) {
         std::vector<double> errors;
-        for (const Picture &picture : pictures()) {
+        for (const Picture &picture : some()) {
             const ImageStatistics s = measureImage(*image(noisy(picture, sigma)), {});
             errors.push_back(std::abs(255.0 * double(s.noise[0] + s.noise[1] + s.noise[2]) / 3 / sigma - 1));
         }
@@ -68,23 +66,31 @@ TEST_F(Photographs, AddedNoiseIsMeasured) {
     }
 }
 
-TEST_F(Photographs, BlurredOnesMeasureWider) {
-    for (const Picture &picture : pictures()) {
-        float before = -1;
-        for (const double sigma : {0.0, 1.0, 2.0, 4.0}) {
-            const float found = measureImage(*image(blurred(picture, sigma)), {}).blur;
-            EXPECT_GT(found, before) << sigma;
-            before = found;
+TEST_F(Photographs, BlurredOnesMeasureWiderWithAndWithoutNoise) {
+    for (const Picture &picture : some()) {
+        for (const double noise : {0.0, 2.0}) {
+            float before = -1;
+            for (const double sigma : {0.0, 1.2, 4.0}) {
+                const float found = measureImage(*image(noisy(blurred(picture, sigma), noise)), {}).blur;
+                EXPECT_GT(found, before) << sigma << ' ' << noise;
+                before = found;
+            }
+            EXPECT_NEAR(before, 4, 1.6) << noise;
         }
     }
 }
 
 TEST_F(Photographs, CleanOnesAreLeftAloneAndSpoiltOnesAreNot) {
-    const auto all = std::size_t(pictures().size());
-    const auto asIs = [](const Picture &p) { return p; };
-    for (const char *category : {"Denoise", "Sharpen", "White Balance Adjust"})
-        EXPECT_EQ(proposals(category, asIs), std::vector<int>()) << category;
-    EXPECT_EQ(proposals("Denoise", [](const Picture &p) { return noisy(p, 6); }).size(), all);
-    EXPECT_EQ(proposals("Denoise", [](const Picture &p) { return grainy(p, 12, 0.6); }).size(), all);
-    EXPECT_GE(proposals("Sharpen", [](const Picture &p) { return blurred(p, 2.5); }).size(), all * 9 / 10);
+    int touched = 0;
+    for (const Picture &picture : pictures())
+        touched += proposals(picture).isEmpty() ? 0 : 1;
+    // One of them is softer than the others by nature.
+    EXPECT_LE(touched, 1);
+    const QString denoise = QStringLiteral("Denoise");
+    const QString sharpen = QStringLiteral("Sharpen");
+    for (const Picture &picture : some()) {
+        EXPECT_TRUE(proposals(noisy(picture, 6)).contains(denoise));
+        EXPECT_TRUE(proposals(grainy(picture, 12, 0.6)).contains(denoise));
+        EXPECT_TRUE(proposals(noisy(blurred(picture, 2.5), 1)).contains(sharpen));
+    }
 }
