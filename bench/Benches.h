@@ -7,4 +7,6 @@
 int benchModel(const QStringList &arguments);
 int benchEngine(const QStringList &arguments);
 int benchImageio(const QStringList &arguments);
+int benchAutopilot(const QStringList &arguments);
+int benchNetwork(const QStringList &arguments);
 int benchCli(const QStringList &arguments);

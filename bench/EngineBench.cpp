@@ -1,6 +1,5 @@
 #include "Benches.h"
-
-#include "engine/EngineBackend.h"
+#include "EngineRun.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -11,7 +10,6 @@
 #include <opencv2/imgproc.hpp>
 #include <opencv2/photo.hpp>
 
-#include <cmath>
 #include <cstdio>
 #include <vector>
 
@@ -22,25 +20,6 @@ namespace {
 constexpr double Deviation = 25; // of the noise, on the 8-bit scale
 constexpr double LeastGain = 2;  // decibels beyond the reference
 constexpr double MemoryLimit = 1.2e9;
-
-ImageRef toImage(const cv::Mat &mat) {
-    auto image = std::make_shared<ImageData>(mat.cols, mat.rows, 3, SampleType::UInt8);
-    cv::Mat rgb(mat.rows, mat.cols, CV_8UC3, image->row(0), image->rowBytes());
-    cv::cvtColor(mat, rgb, cv::COLOR_BGR2RGB);
-    return image;
-}
-
-cv::Mat toMat(const ImageData &image) {
-    const cv::Mat rgb(image.height(), image.width(), CV_8UC3, const_cast<std::byte *>(image.row(0)),
-                      image.rowBytes());
-    cv::Mat mat;
-    cv::cvtColor(rgb, mat, cv::COLOR_RGB2BGR);
-    return mat;
-}
-
-double megapixels(const cv::Mat &mat) {
-    return double(mat.total()) / 1e6;
-}
 
 cv::Mat noisy(const cv::Mat &clean) {
     cv::Mat noise(clean.size(), CV_32FC3), sum;
@@ -70,47 +49,6 @@ std::vector<cv::Mat> photographs(QStringList paths) {
     }
     return photographs;
 }
-
-struct Filter {
-    QString category;
-    QString model;
-    QVariantMap params;
-};
-
-class Engine {
-public:
-    Engine()
-        : m_backend(makeEngineBackend()) {
-        m_backend->catalogue(QStringLiteral(ORVANE_MODELS));
-    }
-
-    /// The processed picture, its time in seconds added to `seconds`; empty when a run failed.
-    cv::Mat run(const cv::Mat &mat, const std::vector<Filter> &filters, double &seconds) {
-        ProcRequest request;
-        request.input.uid = QString::number(++m_uid);
-        request.input.image = toImage(mat);
-        request.region = QRect(0, 0, mat.cols, mat.rows);
-        request.full = true;
-        for (const Filter &filter : filters) {
-            request.filterOrder.append(filter.category);
-            request.params.insert(filter.category, QVariantMap{{u"category"_s, filter.category},
-                                                               {u"model"_s, filter.model},
-                                                               {u"params"_s, filter.params},
-                                                               {u"enabled"_s, true}});
-        }
-        QElapsedTimer timer;
-        timer.start();
-        const ProcResult result = m_backend->process(request, {});
-        seconds += double(timer.nsecsElapsed()) / 1e9;
-        if (!result.image)
-            std::fprintf(stderr, "engine: %s\n", qPrintable(result.error));
-        return result.image ? toMat(*result.image) : cv::Mat();
-    }
-
-private:
-    std::unique_ptr<ProcessingBackend> m_backend;
-    int m_uid = 0;
-};
 
 int row(const char *what, double value, const char *unit, double reference, double over, const char *bound,
         bool within) {
@@ -147,7 +85,7 @@ Reference nonLocalMeans(const std::vector<cv::Mat> &clean, const std::vector<cv:
     return best;
 }
 
-int benchDenoise(Engine &engine, const std::vector<cv::Mat> &clean, const Reference &reference,
+int benchDenoise(EngineRun &engine, const std::vector<cv::Mat> &clean, const Reference &reference,
                  const std::vector<cv::Mat> &damaged) {
     struct Row {
         const char *name;
@@ -177,7 +115,7 @@ int benchDenoise(Engine &engine, const std::vector<cv::Mat> &clean, const Refere
 }
 
 /// Speed of the other models, against the same reference: how much they cost beside a denoiser.
-int benchSpeed(Engine &engine, const cv::Mat &picture, const Reference &reference) {
+int benchSpeed(EngineRun &engine, const cv::Mat &picture, const Reference &reference) {
     const QVariantMap sharp{{u"param1"_s, 0.0}, {u"param2"_s, 0.5}};
     QVariantMap lens = sharp;
     lens[u"isLens"_s] = true;
@@ -220,7 +158,7 @@ void resetPeakMemory() {
         references.write("5");
 }
 
-int benchLarge(Engine &engine, const cv::Mat &photograph, const Reference &reference) {
+int benchLarge(EngineRun &engine, const cv::Mat &photograph, const Reference &reference) {
     cv::Mat large;
     cv::resize(photograph, large, {6000, 4000}, 0, 0, cv::INTER_CUBIC);
     const std::vector<Filter> filters = {
@@ -254,7 +192,7 @@ int benchEngine(const QStringList &arguments) {
     std::printf("%zu photographs, noise of %.0f; reference: OpenCV fastNlMeansDenoisingColored\n",
                 clean.size(), Deviation);
     std::printf("%-40s %8s %-5s %8s %8s\n", "", "", "", "ref.", "ratio");
-    Engine engine;
+    EngineRun engine;
     const Reference reference = nonLocalMeans(clean, damaged);
     int worst = benchDenoise(engine, clean, reference, damaged);
     cv::Mat large;

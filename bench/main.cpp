@@ -19,6 +19,10 @@ const std::vector<Bench> &benches() {
 #endif
 #ifdef ORVANE_BENCH_ENGINE
         {"engine", benchEngine},
+        {"network", benchNetwork},
+#endif
+#ifdef ORVANE_BENCH_ENGINE
+        {"autopilot", benchAutopilot},
 #endif
 #ifdef ORVANE_BENCH_IMAGEIO
         {"imageio", benchImageio},
