@@ -4,11 +4,23 @@
 #include <QFile>
 #include <QSettings>
 
+namespace {
+
+/// The store writes every such byte in another form; reading takes it for text all the same.
+bool holdsZeroBytes(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.readAll().contains('\0');
+}
+
+} // namespace
+
 void reportSettingsStore(const QSettings &settings) {
     const QString path = settings.fileName();
     switch (settings.status()) {
     case QSettings::NoError:
-        return;
+        if (!holdsZeroBytes(path))
+            return;
+        break;
     case QSettings::AccessError:
         qWarning().noquote() << "The settings cannot be read or written; this session has the defaults:"
                              << path;

@@ -60,8 +60,8 @@ TEST(SettingsStore, DamagedStoreIsReportedAndKept) {
     };
     EXPECT_EQ(store("[General]\na=1\n"), 1);
     EXPECT_FALSE(QFile::exists(path + QStringLiteral(".damaged"))) << "nothing is wrong with it";
-    const QByteArray damaged = "[General]\na=1\n[broken\n\xff\xfe\n";
-    for (int i = 0; i < 2; ++i) {
+    const QByteArray broken = "[General]\na=1\n[broken\n\xff\xfe\n";
+    for (const QByteArray &damaged : {broken, QByteArray("[General]\na=1\nb=\0\0\n", 19)}) {
         EXPECT_EQ(store(damaged), 1) << "what can be read stands";
         QFile kept(path + QStringLiteral(".damaged"));
         ASSERT_TRUE(kept.open(QIODevice::ReadOnly));

@@ -16,8 +16,7 @@ ColumnLayout {
     readonly property int cellHeight: 132
     readonly property int cellMinimum: 80
     // A low window shows fewer and lower cells, whole ones always.
-    readonly property real gridRoom: height - _heading.height - spacing
-    readonly property int rows: Math.max(1, Math.min(maxRows, Math.ceil(recentFiles.length / 2), Math.floor((gridRoom + _grid.rowSpacing) / (cellMinimum + _grid.rowSpacing))))
+    readonly property int rows: Math.max(1, Math.min(maxRows, Math.ceil(recentFiles.length / 2), Math.floor((_room.height + spacing) / (cellMinimum + spacing))))
 
     signal openRecentFile(string path)
     signal clearRecentFiles
@@ -25,8 +24,6 @@ ColumnLayout {
     spacing: PebbleStyle.size.spacingLarge
 
     RowLayout {
-        id: _heading
-
         PbLabel {
             type: PbLabel.Type.Heading
             text: qsTr("Recent")
@@ -47,31 +44,32 @@ ColumnLayout {
         text: qsTr("No recent files")
     }
 
-    GridLayout {
-        id: _grid
+    // Takes what is left and asks for nothing: the cells follow its height, not the other way round.
+    Item {
+        id: _room
 
-        columns: 2
-        columnSpacing: PebbleStyle.size.spacingLarge
-        rowSpacing: PebbleStyle.size.spacingLarge
+        Layout.fillWidth: true
+        Layout.fillHeight: true
 
-        Repeater {
-            model: _top.recentFiles.slice(0, 2 * _top.rows)
+        Grid {
+            columns: 2
+            spacing: _top.spacing
 
-            RecentCell {
-                required property string modelData
+            Repeater {
+                model: _top.recentFiles.slice(0, 2 * _top.rows)
 
-                path: modelData
-                thumbnail: _private.thumbnails[modelData] ?? ""
-                imageUtils: _top.imageUtils
-                onClicked: _top.openRecentFile(path)
-                Layout.preferredWidth: (_top.width - PebbleStyle.size.spacingLarge) / 2
-                Layout.preferredHeight: Math.min(_top.cellHeight, (_top.gridRoom - (_top.rows - 1) * _grid.rowSpacing) / _top.rows)
+                RecentCell {
+                    required property string modelData
+
+                    width: (_room.width - _top.spacing) / 2
+                    height: Math.min(_top.cellHeight, (_room.height - (_top.rows - 1) * _top.spacing) / _top.rows)
+                    path: modelData
+                    thumbnail: _private.thumbnails[modelData] ?? ""
+                    imageUtils: _top.imageUtils
+                    onClicked: _top.openRecentFile(path)
+                }
             }
         }
-    }
-
-    Item {
-        Layout.fillHeight: true
     }
 
     TThumbnailWriter {
