@@ -2,37 +2,44 @@
 
 #include "engine/filters/NetworkChoice.h"
 #include "engine/kernels/DetailReturn.h"
+#include "engine/kernels/RangeLimit.h"
 
 namespace {
 
 class RestoreStage final : public Stage {
 public:
-    RestoreStage(const QString &name, NetworkPass pass, const DetailReturn &detail)
+    RestoreStage(const QString &name, NetworkPass pass, const DetailReturn &detail, const RangeLimit &limit)
         : m_name(name)
         , m_pass(std::move(pass))
-        , m_detail(detail) {}
+        , m_detail(detail)
+        , m_limit(limit) {}
 
     QString name() const override { return m_name; }
     TRect inputRegion(const TRect &output) const override {
-        return m_pass.inputArea(Region::grown(output, m_detail.halo()));
+        return m_pass.inputArea(Region::grown(output, std::max(m_detail.halo(), m_limit.halo())));
     }
     int tileSide() const override { return m_pass.tileSide(); }
     double cost() const override { return 4; }
     QString run(const FloatTile &in, FloatTile &out, Scratch &scratch,
                 const std::stop_token &stop) const override {
-        if (m_detail.amount <= 0)
-            return m_pass.run(in.planes, out.planes, scratch, stop);
-        const FloatTile clean = FloatTile::make(scratch, Region::grown(out.area, m_detail.halo()), 3);
-        const QString error = m_pass.run(in.planes, clean.planes, scratch, stop);
-        if (error.isEmpty() && !stop.stop_requested())
-            m_detail.run(in.planes, clean.planes, out.planes, out.area, scratch);
-        return error;
+        FloatTile result = out;
+        if (m_detail.halo() > 0)
+            result = FloatTile::make(scratch, Region::grown(out.area, m_detail.halo()), 3);
+        const QString error = m_pass.run(in.planes, result.planes, scratch, stop);
+        if (!error.isEmpty() || stop.stop_requested())
+            return error;
+        if (m_detail.halo() > 0)
+            m_detail.run(in.planes, result.planes, out.planes, out.area, scratch);
+        if (m_limit.halo() > 0)
+            m_limit.run(in.planes, out.planes, out.area, scratch);
+        return {};
     }
 
 private:
     QString m_name;
     NetworkPass m_pass;
     DetailReturn m_detail;
+    RangeLimit m_limit;
 };
 
 } // namespace
@@ -41,9 +48,9 @@ Made makeRestoreStage(const FilterInput &input) {
     NetworkChoice::Choice choice = NetworkChoice::make(input, 1);
     if (!choice.pass)
         return {nullptr, choice.error};
+    const ModelDefinition &model = input.values.definition();
     const DetailReturn detail{float(input.values.number(QStringLiteral("detail"))),
                               input.statistics.lumaNoise};
-    return {
-        std::make_unique<RestoreStage>(input.values.definition().category, std::move(*choice.pass), detail),
-        {}};
+    const RangeLimit limit{float(model.constant(QStringLiteral("overshoot"), -1))};
+    return {std::make_unique<RestoreStage>(model.category, std::move(*choice.pass), detail, limit), {}};
 }
