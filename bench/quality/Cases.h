@@ -1,0 +1,21 @@
+#pragma once
+
+#include "../EngineRun.h"
+#include "References.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// One line of the page: a model against one damage.
+struct Case {
+    std::string model;
+    std::string damage;
+    std::function<cv::Mat(const cv::Mat &clean, int seed)> apply;
+    /// The slider's places that are tried; the one best on average counts, as for the reference.
+    std::vector<Filter> settings;
+    const Reference &reference;
+    int scale = 1; ///< above 1 luminance is compared
+};
+
+std::vector<Case> allCases();
