@@ -72,7 +72,7 @@ TEST(Quality, DamageIsUndone) {
          u"Sharpen"_s,
          u"Sharpen Standard v2"_s,
          {{u"param2"_s, 0.65}, {u"param1"_s, 0.0}},
-         1.5},
+         2},
         {"softer",
          true,
          [](auto &i) { return Pictures::blurred(i, 1.5); },
