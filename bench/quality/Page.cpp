@@ -35,7 +35,7 @@ bool writePage(const QString &folder, const std::vector<Case> &cases, const std:
             "Means over the photographs; PSNR in dB, for enlargements over luminance; SSIM over luminance. A "
             "slider and each reference (OpenCV's) stand where they are best on average. Seconds for a "
             "megapixel "
-            "of input. Most memory held: "
+            "of input, in pictures so small that mostly one core works. Most memory held: "
          << number(peakMegabytes, 0) << " MB.\n\n"
          << "| model | damage | damaged | ours | reference | | SSIM ours | SSIM reference | s/MP |\n"
             "|---|---|---|---|---|---|---|---|---|\n";
