@@ -1,5 +1,6 @@
 #include "Benches.h"
 #include "FmaPeak.h"
+#include "WeightCount.h"
 
 #include "engine/EngineBackend.h"
 
@@ -36,7 +37,7 @@ ImageRef grain(int width, int height) {
     return image;
 }
 
-/// A network model as its definition file describes it, with its weights' bytes.
+/// A network model as its definition file describes it, with the size of its weights.
 struct Model {
     QString category, name;
     QVariantMap params; ///< every number in the middle of its range
@@ -44,7 +45,7 @@ struct Model {
     double multiplyAdds = 0; ///< for an input pixel
 };
 
-/// Every weight is used once for each block of 2 x 2 pixels, and has four bytes.
+/// Every weight is used once for each block of 2 x 2 pixels.
 std::vector<Model> networkModels() {
     std::vector<Model> models;
     QDirIterator files(QStringLiteral(ORVANE_MODELS), {u"*.json"_s}, QDir::Files,
@@ -58,8 +59,9 @@ std::vector<Model> networkModels() {
         for (const QJsonValue &network : networks) {
             Model model{object[u"category"].toString(), object[u"model"].toString(), {}};
             model.scale = network[u"scale"].toInt();
-            const QFileInfo weights(QFileInfo(file).dir().filePath(network[u"file"].toString()));
-            model.multiplyAdds = double(weights.size()) / 16;
+            QFile weights(QFileInfo(file).dir().filePath(network[u"file"].toString()));
+            if (weights.open(QIODevice::ReadOnly))
+                model.multiplyAdds = convolutionWeights(weights.readAll()) / 4;
             const QJsonObject parameters = object[u"parameters"].toObject();
             for (auto p = parameters.begin(); p != parameters.end(); ++p)
                 model.params[p.key()] = p->toObject()[u"default"].isBool() ? QVariant(false) : QVariant(0.5);
