@@ -49,10 +49,6 @@ double ModelDefinition::constant(const QString &name, double fallback) const {
     return constants.value(name).toDouble(fallback);
 }
 
-QString ModelDefinition::text(const QString &name, const QString &fallback) const {
-    return constants.value(name).toString(fallback);
-}
-
 std::optional<ModelDefinition> parseModelDefinition(const QByteArray &json, QString *error) {
     const auto fail = [error](const QString &message) -> std::optional<ModelDefinition> {
         *error = message;

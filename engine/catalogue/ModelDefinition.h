@@ -29,7 +29,6 @@ struct ModelDefinition {
 
     const ParameterDefinition *byRole(const QString &role) const;
     double constant(const QString &name, double fallback) const;
-    QString text(const QString &name, const QString &fallback) const;
 };
 
 /// Reads a definition file's contents: JSON of at most 256 KiB, at most 64 parameters, ranges

@@ -53,9 +53,10 @@ public:
     }
 
     PlaneView plane(const TRect &area) {
-        // Kernels work on 32 samples at once and may touch, unused, what lies behind a row's end.
-        const std::ptrdiff_t stride = (area.width + 31) / 32 * 32;
-        return {floats(std::size_t(stride) * std::size_t(area.height) + 64), stride, area};
+        // Every row begins aligned, as the first one does.
+        constexpr int Step = AlignedFloats::Alignment / sizeof(float);
+        const std::ptrdiff_t stride = (area.width + Step - 1) / Step * Step;
+        return {floats(std::size_t(stride) * std::size_t(area.height)), stride, area};
     }
 
     void clear() { m_used = 0; }

@@ -1,12 +1,9 @@
 #include "engine/filters/Filters.h"
 
-#include "engine/filters/DenoiseFilter.h"
 #include "engine/filters/EnhanceFilter.h"
 #include "engine/filters/ExposureFilter.h"
 #include "engine/filters/NetworkChoice.h"
-#include "engine/filters/NetworkEnhanceFilter.h"
 #include "engine/filters/RestoreFilter.h"
-#include "engine/filters/SharpenFilter.h"
 #include "engine/filters/WhiteBalanceFilter.h"
 
 #include <QHash>
@@ -18,14 +15,11 @@ using Make = Made (*)(const FilterInput &);
 /// By kind and operation.
 const QHash<QString, Make> &operations() {
     static const QHash<QString, Make> table = {
-        {QStringLiteral("classical/denoise"), makeDenoiseStage},
-        {QStringLiteral("classical/sharpen"), makeSharpenStage},
-        {QStringLiteral("classical/enhance"), makeEnhanceStage},
         {QStringLiteral("classical/exposure"), makeExposureStage},
         {QStringLiteral("classical/whiteBalance"), makeWhiteBalanceStage},
         {QStringLiteral("network/denoise"), makeRestoreStage},
         {QStringLiteral("network/sharpen"), makeRestoreStage},
-        {QStringLiteral("network/enhance"), makeNetworkEnhanceStage},
+        {QStringLiteral("network/enhance"), makeEnhanceStage},
     };
     return table;
 }

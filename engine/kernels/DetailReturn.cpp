@@ -1,7 +1,14 @@
 #include "engine/kernels/DetailReturn.h"
 
 #include "engine/kernels/LocalRange.h"
-#include "engine/kernels/LumaDeblur.h"
+
+namespace {
+
+float luma(float r, float g, float b) {
+    return 0.299f * r + 0.587f * g + 0.114f * b;
+}
+
+} // namespace
 
 void DetailReturn::run(const PlaneView *original, const PlaneView *clean, const PlaneView *out,
                        const TRect &area, Scratch &scratch) const {
@@ -16,7 +23,7 @@ void DetailReturn::run(const PlaneView *original, const PlaneView *clean, const 
             n[c] = clean[c].at(around.x, y);
         }
         for (int x = 0; x < around.width; ++x) {
-            const float removed = lumaOf(o[0][x] - n[0][x], o[1][x] - n[1][x], o[2][x] - n[2][x]);
+            const float removed = luma(o[0][x] - n[0][x], o[1][x] - n[1][x], o[2][x] - n[2][x]);
             squared.row(y)[x] = removed * removed;
         }
     }

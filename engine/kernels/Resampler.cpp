@@ -5,14 +5,13 @@
 
 namespace {
 
-double cubic(double x, double b, double c) {
+/// Interpolates with the slope -c at 1.
+double cubic(double x, double c) {
     x = std::abs(x);
     if (x < 1)
-        return ((12 - 9 * b - 6 * c) * x * x * x + (-18 + 12 * b + 6 * c) * x * x + (6 - 2 * b)) / 6;
+        return ((2 - c) * x + (c - 3)) * x * x + 1;
     if (x < 2)
-        return ((-b - 6 * c) * x * x * x + (6 * b + 30 * c) * x * x + (-12 * b - 48 * c) * x +
-                (8 * b + 24 * c)) /
-               6;
+        return -c * (((x - 5) * x + 8) * x - 4);
     return 0;
 }
 
@@ -38,11 +37,9 @@ Resampler::Resampler(Kernel kernel, int from, int to)
 double Resampler::kernel(double x) const {
     switch (m_kernel) {
     case Kernel::CatmullRom:
-        return cubic(x, 0, 0.5);
+        return cubic(x, 0.5);
     case Kernel::SharpCubic:
-        return cubic(x, 0, 0.75);
-    case Kernel::Mitchell:
-        return cubic(x, 1.0 / 3, 1.0 / 3);
+        return cubic(x, 0.75);
     case Kernel::Lanczos3:
         return lanczos3(x);
     }

@@ -8,8 +8,8 @@
 /// kernel is widened, so that nothing aliases. Weights depend on absolute positions alone.
 class Resampler {
 public:
-    /// SharpCubic is the cubic kernel with a slope of -0.75, the other two common ones have -0.5.
-    enum class Kernel { CatmullRom, SharpCubic, Mitchell, Lanczos3 };
+    /// SharpCubic is the cubic kernel with a slope of -0.75, CatmullRom with one of -0.5.
+    enum class Kernel { CatmullRom, SharpCubic, Lanczos3 };
 
     Resampler(Kernel kernel, int from, int to);
 

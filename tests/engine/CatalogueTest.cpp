@@ -24,7 +24,7 @@ void write(const QString &path, const QByteArray &contents) {
 
 QByteArray definition(const QByteArray &model, const QByteArray &parameters = "{}") {
     return R"({"category": "Denoise", "model": ")" + model +
-           R"(", "kind": "classical", "operation": "denoise", "parameters": )" + parameters + "}";
+           R"(", "kind": "classical", "operation": "exposure", "parameters": )" + parameters + "}";
 }
 
 QByteArray network(const QByteArray &entry) {
@@ -130,7 +130,7 @@ TEST(Catalogue, DamagedFilesAreSkipped) {
         {"infinite", definition("A", R"({"p": {"min": 0, "max": 1e999}})")},
         {"parameter", definition("A", R"({"p": 5})")},
         {"kind", definition("A").replace("classical", "magic")},
-        {"operation", definition("A").replace("\"denoise\"", "\"polish\"")},
+        {"operation", definition("A").replace("exposure", "polish")},
         {"second-good", definition("Good")},
         {"no-networks", network("")},
         {"no-file", network(R"({"halo": 8, "conditions": [{}]})")},

@@ -1,5 +1,0 @@
-#pragma once
-
-#include "engine/filters/Filters.h"
-
-Made makeDenoiseStage(const FilterInput &input);
