@@ -1,8 +1,9 @@
 #include "Harness.h"
 
+#include <QBuffer>
+
 #include <cmath>
 #include <mutex>
-#include <numbers>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -101,37 +102,26 @@ std::shared_ptr<ImageData> Pictures::blurred(const ImageData &image, double sigm
     });
 }
 
-std::shared_ptr<ImageData> Pictures::compressed(const ImageData &image, double step) {
-    static const auto basis = [](int k, int i) {
-        return std::cos(std::numbers::pi * (i + 0.5) * k / 8) * (k == 0 ? std::sqrt(0.125) : 0.5);
-    };
-    std::vector<double> values(std::size_t(image.width()) * std::size_t(image.height()) * 3);
-    const auto at = [&](int x, int y, int c) -> double & {
-        return values[(std::size_t(y) * std::size_t(image.width()) + std::size_t(x)) * 3 + std::size_t(c)];
-    };
-    for (int c = 0; c < 3; ++c) {
-        for (int by = 0; by + 8 <= image.height(); by += 8) {
-            for (int bx = 0; bx + 8 <= image.width(); bx += 8) {
-                double coefficients[8][8];
-                for (int v = 0; v < 8; ++v) {
-                    for (int u = 0; u < 8; ++u) {
-                        double sum = 0;
-                        for (int y = 0; y < 8; ++y)
-                            for (int x = 0; x < 8; ++x)
-                                sum += basis(u, x) * basis(v, y) * sample(image, bx + x, by + y, c);
-                        const double grid = step / 255 * (1 + 0.5 * (u + v));
-                        coefficients[v][u] = std::round(sum / grid) * grid;
-                    }
-                }
-                for (int y = 0; y < 8; ++y)
-                    for (int x = 0; x < 8; ++x)
-                        for (int v = 0; v < 8; ++v)
-                            for (int u = 0; u < 8; ++u)
-                                at(bx + x, by + y, c) += basis(u, x) * basis(v, y) * coefficients[v][u];
-            }
-        }
-    }
-    return changed(image, [&](double, int x, int y, int c) { return at(x, y, c); });
+std::shared_ptr<ImageData> Pictures::compressed(const ImageData &image, int quality) {
+    QImage picture(image.width(), image.height(), QImage::Format_RGB888);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            picture.setPixelColor(x, y,
+                                  QColor::fromRgbF(float(sample(image, x, y, 0)),
+                                                   float(sample(image, x, y, 1)),
+                                                   float(sample(image, x, y, 2))));
+    QBuffer file;
+    file.open(QIODevice::ReadWrite);
+    picture.save(&file, "JPEG", quality);
+    picture = QImage::fromData(file.data(), "JPEG");
+    return fromImage(picture, picture.rect());
+}
+
+std::shared_ptr<ImageData> Pictures::fromImage(const QImage &picture, const QRect &part) {
+    return make(part.width(), part.height(), 3, SampleType::UInt8, [&](int x, int y) -> Pixel {
+        const QColor colour = picture.pixelColor(part.topLeft() + QPoint(x, y));
+        return {double(colour.redF()), double(colour.greenF()), double(colour.blueF()), 1};
+    });
 }
 
 double Pictures::sample(const ImageData &image, int x, int y, int channel) {

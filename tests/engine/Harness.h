@@ -2,12 +2,24 @@
 
 #include "engine/EngineBackend.h"
 
+#include <QImage>
+
 #include <functional>
 #include <string>
 #include <vector>
 
 /// Pictures made by rule, the same on every machine, and an engine with the shipped models.
 namespace Pictures {
+
+struct Format {
+    const char *name;
+    int channels;
+    SampleType type;
+};
+inline constexpr Format formats[] = {{"rgb 8", 3, SampleType::UInt8},
+                                     {"rgba 8", 4, SampleType::UInt8},
+                                     {"rgb 16", 3, SampleType::UInt16},
+                                     {"rgba 16", 4, SampleType::UInt16}};
 
 using Pixel = std::array<double, 4>; ///< R G B A, 0 to 1
 std::shared_ptr<ImageData> make(int width, int height, int channels, SampleType type,
@@ -24,8 +36,9 @@ std::shared_ptr<ImageData> changed(const ImageData &image,
 std::shared_ptr<ImageData> noisy(const ImageData &image, double deviation);
 /// Gaussian blur, standard deviation in pixels.
 std::shared_ptr<ImageData> blurred(const ImageData &image, double sigma);
-/// Blocks of 8 x 8 whose cosine coefficients are rounded to a coarse grid, as strong compression does.
-std::shared_ptr<ImageData> compressed(const ImageData &image, double step);
+/// Stored as JPEG and read again.
+std::shared_ptr<ImageData> compressed(const ImageData &image, int quality);
+std::shared_ptr<ImageData> fromImage(const QImage &picture, const QRect &part);
 
 double sample(const ImageData &image, int x, int y, int channel);
 /// Peak signal-to-noise ratio of R, G and B in decibels.

@@ -1,34 +1,49 @@
 #include "Harness.h"
 
-#include <QImage>
-
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 /// The middle of a photograph, reduced by half, where nothing of its own noise and compression is
-/// left: blur and compression are undone by what networks learned from photographs. Null where the
-/// package mate-backgrounds isn't installed.
+/// left. Null where the package mate-backgrounds isn't installed.
 std::shared_ptr<ImageData> photograph(int width, int height) {
     const QImage file(u"/usr/share/backgrounds/mate/nature/Garden.jpg"_s);
     if (file.isNull())
         return nullptr;
     const QImage half = file.scaled(file.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const QPoint corner((half.width() - width) / 2, (half.height() - height) / 2);
-    return Pictures::make(width, height, 3, SampleType::UInt8, [&](int x, int y) -> Pictures::Pixel {
-        const QColor colour = half.pixelColor(corner + QPoint(x, y));
-        return {double(colour.redF()), double(colour.greenF()), double(colour.blueF()), 1};
-    });
+    return Pictures::fromImage(half, QRect(corner, QSize(width, height)));
 }
+
+using Damage = std::function<std::shared_ptr<ImageData>(const ImageData &)>;
+
+Damage noise(double deviation) {
+    return [=](const ImageData &i) { return Pictures::noisy(i, deviation); };
+}
+
+Damage blur(double sigma, double noise = 0) {
+    return [=](const ImageData &i) { return Pictures::noisy(*Pictures::blurred(i, sigma), noise); };
+}
+
+Damage tone(double power, double blue) {
+    return [=](const ImageData &i) {
+        return Pictures::changed(
+            i, [=](double v, int, int, int c) { return std::pow(v, power) * (c == 2 ? blue : 1); });
+    };
+}
+
+/// Blur and compression are undone by what was learned from photographs.
+enum Subject { Drawing, Photograph };
 
 struct Case {
     const char *name;
-    bool onPhotograph;
-    std::function<std::shared_ptr<ImageData>(const ImageData &)> damage;
-    QString category;
-    QString model;
+    Subject subject;
+    Damage damage;
+    const char *category, *model;
     QVariantMap params;
     double gain; ///< decibels, at least
 };
@@ -37,98 +52,34 @@ struct Case {
 
 /// A filter at the strength that fits the damage brings the picture closer to what it was.
 TEST(Quality, DamageIsUndone) {
+    const Damage jpeg = [](auto &i) { return Pictures::compressed(i, 25); };
+    const QVariantMap lens{{u"param2"_s, 0.55}, {u"isLens"_s, true}},
+        both{{u"param2"_s, 0.6}, {u"param1"_s, 0.2}};
     const Case cases[] = {
-        {"light noise",
-         false,
-         [](auto &i) { return Pictures::noisy(i, 10); },
-         u"Denoise"_s,
-         u"Low Light Beta"_s,
-         {{u"param1_normalv2"_s, 10.0 / 50}},
-         4},
-        {"noise",
-         false,
-         [](auto &i) { return Pictures::noisy(i, 25); },
-         u"Denoise"_s,
-         u"Severe Noise Beta"_s,
-         {{u"param1_strongv2"_s, 25.0 / 75}},
-         7},
-        {"heavy noise",
-         false,
-         [](auto &i) { return Pictures::noisy(i, 45); },
-         u"Denoise"_s,
-         u"Severe Noise"_s,
-         {{u"param1"_s, 0.45}, {u"param2"_s, 0.0}},
-         7.5},
-        {"RAW noise",
-         false,
-         [](auto &i) { return Pictures::noisy(i, 20); },
-         u"RAW"_s,
-         u"RAW Native"_s,
-         {{u"param1_native"_s, 0.5}, {u"param2_native"_s, 0.0}},
-         6},
-        {"soft",
-         true,
-         [](auto &i) { return Pictures::noisy(*Pictures::blurred(i, 1.3), 2); },
-         u"Sharpen"_s,
-         u"Sharpen Standard v2"_s,
-         {{u"param2"_s, 0.65}, {u"param1"_s, 0.0}},
-         2},
-        {"softer",
-         true,
-         [](auto &i) { return Pictures::blurred(i, 1.5); },
-         u"Sharpen"_s,
-         u"Sharpen Strong"_s,
-         {{u"param2"_s, 0.5}, {u"param1"_s, 0.0}},
-         2},
-        {"lens blur",
-         true,
-         [](auto &i) { return Pictures::blurred(i, 2.2); },
-         u"Sharpen"_s,
-         u"Sharpen Standard"_s,
-         {{u"param2"_s, 0.55}, {u"param1"_s, 0.0}, {u"isLens"_s, true}},
-         1},
-        {"soft and noisy",
-         true,
-         [](auto &i) { return Pictures::noisy(*Pictures::blurred(i, 1.2), 3); },
-         u"Sharpen"_s,
-         u"Sharpen Standard v2"_s,
-         {{u"param2"_s, 0.6}, {u"param1"_s, 0.2}},
-         1},
-        {"compressed",
-         true,
-         [](auto &i) { return Pictures::compressed(i, 30); },
-         u"Enhance"_s,
-         u"Standard V2"_s,
-         {{u"param3"_s, 0.5}, {u"param1"_s, 0.0}, {u"param2"_s, 0.0}},
-         0.5},
-        {"dark",
-         false,
-         [](auto &i) { return Pictures::changed(i, [](double v, int, int, int) { return v * v; }); },
-         u"Exposure Adjust"_s,
-         {},
-         {{u"param1"_s, 0.75}},
-         2.5},
-        {"yellow",
-         false,
-         [](auto &i) {
-             return Pictures::changed(i, [](double v, int, int, int c) { return c == 2 ? 0.8 * v : v; });
-         },
-         u"White Balance Adjust"_s,
-         {},
-         {{u"temperature"_s, 0.5}},
-         1},
+        {"light noise", Drawing, noise(10), "Denoise", "Low Light Beta", {{u"param1_normalv2"_s, 0.2}}, 4},
+        {"noise", Drawing, noise(25), "Denoise", "Severe Noise Beta", {{u"param1_strongv2"_s, 0.33}}, 7},
+        {"heavy noise", Drawing, noise(45), "Denoise", "Severe Noise", {{u"param1"_s, 0.45}}, 7.5},
+        {"RAW noise", Drawing, noise(20), "RAW", "RAW Native", {{u"param1_native"_s, 0.5}}, 6},
+        {"soft", Photograph, blur(1.3, 2), "Sharpen", "Sharpen Standard v2", {{u"param2"_s, 0.65}}, 2},
+        {"softer", Photograph, blur(1.5), "Sharpen", "Sharpen Strong", {{u"param2"_s, 0.5}}, 2},
+        {"lens blur", Photograph, blur(2.2), "Sharpen", "Sharpen Standard", lens, 1},
+        {"soft and noisy", Photograph, blur(1.2, 3), "Sharpen", "Sharpen Standard v2", both, 1},
+        {"compressed", Photograph, jpeg, "Enhance", "Standard V2", {{u"param3"_s, 0.8}}, 0.5},
+        {"dark", Drawing, tone(2, 1), "Exposure Adjust", "", {{u"param1"_s, 0.75}}, 2.5},
+        {"yellow", Drawing, tone(1, 0.8), "White Balance Adjust", "", {{u"temperature"_s, 0.5}}, 1},
     };
     Engine engine;
     const auto scene = Pictures::scene(224, 160), photo = photograph(224, 160);
     for (const Case &one : cases) {
-        const auto clean = one.onPhotograph ? photo : scene;
+        const auto clean = one.subject == Photograph ? photo : scene;
         if (!clean)
             continue;
         const auto damaged = one.damage(*clean);
-        const ProcResult result = engine.run(damaged, one.category, one.model, one.params);
+        const ProcResult result =
+            engine.run(damaged, QLatin1String(one.category), QLatin1String(one.model), one.params);
         ASSERT_TRUE(result.image) << one.name << ": " << result.error.toStdString();
-        EXPECT_GT(Pictures::psnr(*clean, *result.image) - Pictures::psnr(*clean, *damaged), one.gain)
-            << one.name;
+        const double gain = Pictures::psnr(*clean, *result.image) - Pictures::psnr(*clean, *damaged);
+        EXPECT_GT(gain, one.gain) << one.name;
     }
 }
 

@@ -7,13 +7,6 @@ using Pictures::mismatch;
 
 namespace {
 
-struct Format {
-    const char *name;
-    int channels;
-    SampleType type;
-};
-constexpr Format formats[] = {{"rgb 8", 3, SampleType::UInt8}, {"rgba 16", 4, SampleType::UInt16}};
-
 EngineOptions cut(int threads, int tileSide) {
     return {threads, tileSide, std::size_t(64) << 20};
 }
@@ -24,7 +17,7 @@ EngineOptions cut(int threads, int tileSide) {
 TEST(SameEverywhere, EveryModel) {
     Engine one(cut(1, 4096));
     Engine many(cut(3, 61));
-    for (const Format &format : formats) {
+    for (const Pictures::Format &format : {Pictures::formats[0], Pictures::formats[3]}) {
         const auto image = Pictures::noisy(*Pictures::scene(173, 131, format.channels, format.type), 6);
         for (const ModelCase &model : everyModel(one.catalogue)) {
             SCOPED_TRACE(std::string(format.name) + ", " + model.label());

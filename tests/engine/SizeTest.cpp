@@ -6,43 +6,39 @@ using namespace Qt::StringLiterals;
 
 TEST(Size, WhatTheSettingsAskFor) {
     struct Row {
-        const char *name;
-        QVariantMap params;
-        int width, height;
+        const char *name, *mode;
+        QVariant scale, width, height;
+        QSize size;
     };
+    const QVariant none;
     const Row rows[] = {
-        {"scale", {{u"scale"_s, 2.5}}, 250, 150},
-        {"scale as text", {{u"scale"_s, u"2"_s}}, 200, 120},
-        {"reduction", {{u"mode"_s, u"scale"_s}, {u"scale"_s, 0.33}}, 33, 20},
-        {"nothing", {}, 100, 60},
-        {"too large", {{u"scale"_s, 99}}, 600, 360},
-        {"too small", {{u"scale"_s, 0.01}}, 20, 12},
-        {"nonsense", {{u"scale"_s, u"big"_s}}, 100, 60},
-        {"width alone", {{u"mode"_s, u"width"_s}, {u"width"_s, 350}}, 350, 210},
-        {"width, untouched scale", {{u"mode"_s, u"width"_s}, {u"width"_s, 50}, {u"scale"_s, 1}}, 50, 30},
-        {"width, all in step",
-         {{u"mode"_s, u"width"_s}, {u"width"_s, 200}, {u"height"_s, 120}, {u"scale"_s, 2.0}},
-         200,
-         120},
-        {"width of a crop",
-         {{u"mode"_s, u"width"_s}, {u"width"_s, 100}, {u"height"_s, 60}, {u"scale"_s, 2.0}},
-         200,
-         120},
-        {"width that the scale can't give",
-         {{u"mode"_s, u"width"_s}, {u"width"_s, 400}, {u"scale"_s, 2.0}},
-         400,
-         240},
-        {"height", {{u"mode"_s, u"height"_s}, {u"height"_s, 90}, {u"width"_s, 7}}, 150, 90},
-        {"height missing", {{u"mode"_s, u"height"_s}, {u"scale"_s, 2}}, 200, 120},
+        {"scale", "", 2.5, none, none, {250, 150}},
+        {"scale as text", "", u"2"_s, none, none, {200, 120}},
+        {"reduction", "scale", 0.33, none, none, {33, 20}},
+        {"nothing", "", none, none, none, {100, 60}},
+        {"too large", "", 99, none, none, {600, 360}},
+        {"too small", "", 0.01, none, none, {20, 12}},
+        {"nonsense", "", u"big"_s, none, none, {100, 60}},
+        {"width alone", "width", none, 350, none, {350, 210}},
+        {"width, untouched scale", "width", 1, 50, none, {50, 30}},
+        {"width, all in step", "width", 2.0, 200, 120, {200, 120}},
+        {"width of a crop", "width", 2.0, 100, 60, {200, 120}},
+        {"width that the scale can't give", "width", 2.0, 400, none, {400, 240}},
+        {"height", "height", none, 7, 90, {150, 90}},
+        {"height missing", "height", 2, none, none, {200, 120}},
     };
     Engine engine;
     const auto image = Pictures::scene(100, 60);
     for (const Row &row : rows) {
-        const ProcResult result = engine.run(image, u"Enhance"_s, u"Standard"_s, row.params);
+        QVariantMap params{{u"mode"_s, QLatin1String(row.mode)}};
+        for (const auto &[key, value] : {std::pair(u"scale"_s, row.scale), std::pair(u"width"_s, row.width),
+                                         std::pair(u"height"_s, row.height)})
+            if (value.isValid())
+                params[key] = value;
+        const ProcResult result = engine.run(image, u"Enhance"_s, u"Standard"_s, params);
         ASSERT_TRUE(result.image) << row.name << result.error.toStdString();
-        EXPECT_EQ(result.image->width(), row.width) << row.name;
-        EXPECT_EQ(result.image->height(), row.height) << row.name;
-        EXPECT_NEAR(result.scale, row.width / 100.0, 0.01) << row.name;
+        EXPECT_EQ(QSize(result.image->width(), result.image->height()), row.size) << row.name;
+        EXPECT_NEAR(result.scale, row.size.width() / 100.0, 0.01) << row.name;
     }
     const auto strip = Pictures::scene(8000, 2);
     EXPECT_EQ(engine.run(strip, u"Enhance"_s, u"Standard"_s, {{u"scale"_s, 6}}).image->width(), 32000);
