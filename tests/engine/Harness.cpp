@@ -164,9 +164,8 @@ Engine::Engine(const EngineOptions &options, const QString &models)
 }
 
 ProcRequest Engine::request(const ImageRef &image) {
-    static int count = 0;
     ProcRequest request;
-    request.input.uid = QString::number(++count);
+    request.input.uid = QString::number(quintptr(image.get())); // measured once by each engine
     request.input.image = image;
     if (image)
         request.region = QRect(0, 0, image->width(), image->height());
