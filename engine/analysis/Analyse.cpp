@@ -45,7 +45,8 @@ void leaveToUpscaling(const AdviceInput &input, const Advice &size, Advice &nois
     };
     if (input.findings.noiseLevel <= Level::Medium && !input.image.isRaw)
         leave(noise, QStringLiteral("Upscaling removes this much noise itself"));
-    if (input.findings.blurLevel <= Level::Medium && !input.findings.motion)
+    if (input.findings.blurLevel <= Level::Medium && input.findings.kind != BlurKind::Motion &&
+        input.findings.kind != BlurKind::Defocus)
         leave(sharpen, QStringLiteral("Upscaling sharpens this much blur itself"));
 }
 

@@ -1,7 +1,6 @@
 #include "engine/analysis/Blur.h"
 
 #include "engine/analysis/EdgeWidths.h"
-#include "engine/analysis/Motion.h"
 #include "engine/analysis/Smoothing.h"
 
 #include <algorithm>
@@ -68,14 +67,11 @@ float edgeShareOf(const TileEdges &edges, const std::array<std::size_t, EdgeScal
 } // namespace
 
 BlurLevels measureBlur(const std::vector<Crop> &tiles, float noise, std::stop_token stop) {
-    std::vector<Plane> planes;
-    for (const Crop &tile : tiles)
-        planes.push_back(tile.luma);
     TileEdges edges;
     std::array<std::size_t, EdgeScales> pixels = {};
     std::vector<TileWidth> widths;
-    for (std::size_t i = 0; i < planes.size(); ++i) {
-        Plane plane = planes[i];
+    for (std::size_t i = 0; i < tiles.size(); ++i) {
+        Plane plane = tiles[i].luma;
         for (std::size_t k = 0; k < EdgeScales; ++k) {
             if (stop.stop_requested())
                 return {};
@@ -90,10 +86,6 @@ BlurLevels measureBlur(const std::vector<Crop> &tiles, float noise, std::stop_to
     BlurLevels levels;
     levels.sigma = sharpestOf(std::move(widths));
     levels.edgeShare = edgeShareOf(edges, pixels);
-    const MotionFound motion = findMotion(planes, edges, noise, stop);
-    levels.motion = motion.length > 0;
-    levels.motionLength = motion.length;
-    levels.motionAngle = motion.angle;
     return levels;
 }
 

@@ -11,9 +11,6 @@ namespace Analysis {
 struct BlurLevels {
     float sigma = 0; ///< Gaussian sigma of the edges in the sharpest part; 0 when there are no edges
     float edgeShare = 0;
-    bool motion = false;
-    float motionLength = 0;
-    float motionAngle = 0; ///< radians in [0, pi), counter-clockwise from the x axis
 };
 
 /// How wide edges are, from how much their gradient falls when the picture is blurred a little more:

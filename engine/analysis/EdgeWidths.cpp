@@ -56,11 +56,6 @@ float gradientNoise(float noise, float sigma) {
     return noise * noise * (sigma > 0 ? 1 / (4 * std::numbers::pi_v<float> * square * square) : 1);
 }
 
-float angleOf(const Gradient &g) {
-    const float angle = std::atan2(-g.y, g.x);
-    return angle < 0 ? angle + std::numbers::pi_v<float> : angle;
-}
-
 } // namespace
 
 std::vector<Edge> edgesOf(const Plane &plane, float noise) {
@@ -86,8 +81,7 @@ std::vector<Edge> edgesOf(const Plane &plane, float noise) {
             if (gradientAt(softer, x + dx, y + dy).squared() > size ||
                 gradientAt(softer, x - dx, y - dy).squared() >= size)
                 continue;
-            edges.push_back(
-                {size - softerNoise, gradientAt(sharper, x, y).squared() - sharperNoise, angleOf(g)});
+            edges.push_back({size - softerNoise, gradientAt(sharper, x, y).squared() - sharperNoise});
         }
     }
     return edges;

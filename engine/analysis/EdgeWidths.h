@@ -12,8 +12,6 @@ struct Edge {
     float strength; ///< squared gradient after further smoothing, less the
                     ///< noise's share
     float before;   ///< and without the further smoothing
-    float angle;    ///< direction of the gradient, radians in [0, pi),
-                    ///< counter-clockwise from the x axis
 };
 
 /// Edges of each tile at full size, half of it and a quarter.

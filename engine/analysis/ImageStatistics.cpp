@@ -1,6 +1,7 @@
 #include "engine/analysis/ImageStatistics.h"
 
 #include "engine/analysis/Blur.h"
+#include "engine/analysis/BlurShape.h"
 #include "engine/analysis/Compression.h"
 #include "engine/analysis/Noise.h"
 #include "engine/analysis/Sampling.h"
@@ -16,7 +17,9 @@ ImageStatistics measureImage(const ImageData &image, std::stop_token stop) {
     const std::vector<Crop> spread = spreadTiles(image, stop);
     const NoiseLevels noise = measureNoise(spread, stop);
     const CompressionLevels compression = measureCompression(spread, stop);
-    const BlurLevels blur = measureBlur(busyTiles(image, stop), noise.luma, stop);
+    const std::vector<Crop> busy = busyTiles(image, stop);
+    const BlurLevels blur = measureBlur(busy, noise.luma, stop);
+    const BlurShape shape = findBlurShape(busy, noise.luma, stop);
     if (stop.stop_requested())
         return answer;
     const Crop small = readSmall(image, SmallSide);
@@ -31,9 +34,11 @@ ImageStatistics measureImage(const ImageData &image, std::stop_token stop) {
     answer.grainSize = noise.grainSize;
     answer.blur = blur.sigma;
     answer.edgeShare = blur.edgeShare;
-    answer.motionBlur = blur.motion;
-    answer.motionLength = blur.motionLength;
-    answer.motionAngle = blur.motionAngle;
+    answer.softness = shape.sigma;
+    answer.blurKind = shape.kind;
+    answer.defocusRadius = shape.radius;
+    answer.motionLength = shape.length;
+    answer.motionAngle = shape.angle;
     answer.jpegQuality = compression.quality;
     answer.blockiness = compression.blockiness;
     answer.lumaLow = tones.low;

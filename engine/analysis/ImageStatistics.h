@@ -5,6 +5,14 @@
 #include <array>
 #include <stop_token>
 
+/// What made a picture unsharp, as far as its spectrum tells.
+enum class BlurKind {
+    Unknown, ///< nothing, too little of it to tell, or too much noise
+    Soft,    ///< details vanish the more the finer they are: what lenses, resizing and air do
+    Defocus, ///< details of certain sizes are gone: a lens out of focus
+    Motion,  ///< the same in one direction
+};
+
 /// What a look at a picture tells about it. All levels are encoded (display-referred) values
 /// from 0 to 1, so that a noise of 10 on the 8-bit scale is 10 / 255; lengths are pixels.
 /// Computed once per image and handed to every run, so that a preview equals the export.
@@ -21,8 +29,10 @@ struct ImageStatistics {
         0; ///< sigma of the Gaussian that would give white noise this correlation; 0 for white noise
 
     float blur = 0; ///< sigma of the Gaussian whose edges look as wide as the sharpest ones here; 0: no edges
-    bool motionBlur = false; ///< edges are wide in one direction only
-    float motionLength = 0;  ///< length of the smear, only with motionBlur
+    float softness = 0; ///< sigma of the Gaussian that explains best how fine detail is missing
+    BlurKind blurKind = BlurKind::Unknown;
+    float defocusRadius = 0; ///< only with BlurKind::Defocus
+    float motionLength = 0;  ///< of the smear, only with BlurKind::Motion
     float motionAngle = 0;   ///< its direction, radians in [0, pi), counter-clockwise from the x axis
     float edgeShare = 0;     ///< share of pixels on clear edges; blur is a guess where this is tiny
 

@@ -12,8 +12,11 @@ namespace {
 constexpr double MostDenoise = 15; ///< noise that the sharpening models take away at full strength
 /// Clean photographs have edges this wide; sharpening is for what exceeds it.
 constexpr double NaturalBlur = 0.3;
-/// The sharpest edges are measured; blur that lies evenly on a photograph is this much wider.
-constexpr double Typical = 1.1;
+/// What is taken back of a blur whose kind is open: too little of it loses part of the gain, too much
+/// makes a picture worse than it was.
+constexpr double ShareIfUnsure = 0.85;
+/// The sizes of discs are known to a twentieth.
+constexpr double ShareOfDefocus = 0.97;
 
 /// A sharpening type as the preferences and the sliders know it.
 struct Type {
@@ -28,11 +31,12 @@ double sliderValue(const StrengthScale::Linear &scale, double width) {
     return std::max(SmallestStrength, scale.strength(width));
 }
 
-std::array<Type, 5> typesFor(const AdviceInput &input, double blur) {
-    // A defocus disk looks like a Gaussian of half its radius, a smear like one of its length over
-    // the root of twelve.
-    const double smear =
-        input.statistics.motionBlur ? double(input.statistics.motionLength) : blur * std::sqrt(12.0);
+/// `factor` is the preference's; a defocus disk looks like a Gaussian of half its radius, a smear like
+/// one of its length over the root of twelve.
+std::array<Type, 5> typesFor(const AdviceInput &input, double blur, double factor) {
+    const ImageStatistics &s = input.statistics;
+    const double radius = s.defocusRadius > 0 ? factor * ShareOfDefocus * double(s.defocusRadius) : 2 * blur;
+    const double smear = s.motionLength > 0 ? factor * double(s.motionLength) : blur * std::sqrt(12.0);
     const double standard = sliderValue(StrengthScale::sharpenStandard, blur);
     return {{{QStringLiteral("standard"), QStringLiteral("Sharpen Standard v2"), false, QStringLiteral("std"),
               standard},
@@ -41,7 +45,7 @@ std::array<Type, 5> typesFor(const AdviceInput &input, double blur) {
              {QStringLiteral("strong"), QStringLiteral("Sharpen Strong"), false, QStringLiteral("stg"),
               sliderValue(StrengthScale::sharpenStrong, blur)},
              {QStringLiteral("lensblur"), QStringLiteral("Sharpen Standard"), true, QStringLiteral("slens"),
-              sliderValue(StrengthScale::sharpenLens, 2 * blur)},
+              sliderValue(StrengthScale::sharpenLens, radius)},
              {QStringLiteral("motionblur"), QStringLiteral("Sharpen Standard"), false, QStringLiteral("smot"),
               sliderValue(StrengthScale::sharpenMotion, smear)}}};
 }
@@ -52,11 +56,26 @@ QString wantedType(const AdviceInput &input) {
         return QStringLiteral("standard");
     if (wanted != QStringLiteral("Auto"))
         return wanted;
-    if (input.findings.motion)
+    switch (input.findings.kind) {
+    case BlurKind::Motion:
         return QStringLiteral("motionblur");
-    return Typical * input.findings.blur > StrengthScale::sharpenStandard.maximum
-               ? QStringLiteral("strong")
-               : QStringLiteral("standard");
+    case BlurKind::Defocus:
+        return QStringLiteral("lensblur");
+    case BlurKind::Soft:
+        return input.findings.blur > StrengthScale::sharpenStandard.maximum ? QStringLiteral("strong")
+                                                                            : QStringLiteral("standard");
+    case BlurKind::Unknown:
+        break;
+    }
+    // Learned from Gaussians and discs alike.
+    return QStringLiteral("strong");
+}
+
+QString reasonFor(BlurKind kind) {
+    if (kind == BlurKind::Motion)
+        return QStringLiteral("The picture is smeared in one direction");
+    return kind == BlurKind::Defocus ? QStringLiteral("The picture is out of focus")
+                                     : QStringLiteral("The sharpest edges are wide");
 }
 
 } // namespace
@@ -66,13 +85,14 @@ Advice adviseSharpen(const AdviceInput &input) {
     const double factor = strengthFactor(input.preferences.sharpenStrength);
     const double found = input.findings.blur;
     const double excess = std::sqrt(std::max(0.0, found * found - NaturalBlur * NaturalBlur));
-    const double blur = factor * std::max(Typical * excess, Thresholds::RestingBlur);
+    const double share = input.findings.kind == BlurKind::Unknown ? ShareIfUnsure : 1;
+    const double blur = factor * std::max(share * excess, Thresholds::RestingBlur);
     const double noise = std::clamp(input.findings.noise / MostDenoise, SmallestStrength, 1.0);
 
     Advice advice;
     advice.category = QStringLiteral("Sharpen");
     advice.enabled = levels.contains(nameOf(input.findings.blurLevel));
-    const std::array<Type, 5> types = typesFor(input, blur);
+    const std::array<Type, 5> types = typesFor(input, blur, factor);
     const Type *chosen = &types.front();
     const QString wanted = wantedType(input);
     for (const Type &type : types) {
@@ -90,8 +110,7 @@ Advice adviseSharpen(const AdviceInput &input) {
                        : levels.contains(QStringLiteral("medium")) ? Thresholds::BlurMedium
                                                                    : Thresholds::BlurHigh;
     if (advice.enabled)
-        advice.reason = input.findings.motion ? QStringLiteral("The picture is smeared in one direction")
-                                              : QStringLiteral("The sharpest edges are wide");
+        advice.reason = reasonFor(input.findings.kind);
     else if (levels.isEmpty())
         advice.reason = QStringLiteral("The preferences leave blur alone");
     else

@@ -28,6 +28,10 @@ inline constexpr double BlurLow = 0.85;
 inline constexpr double BlurMedium = 1.25;
 /// Detail of five pixels and less is gone.
 inline constexpr double BlurHigh = 2.5;
+/// Noise of the luma beyond which fine detail can't be seen to be missing; edges alone tell then.
+inline constexpr double NoiseOverDetail = 2.5;
+/// The spectrum of a dark or flat picture says nothing. It can take this much off what edges say.
+inline constexpr double LeastSoftness = 0.4;
 /// Fewer edge pixels than this share tell nothing about sharpness: fog, sky, a blank wall.
 inline constexpr double FewestEdges = 0.002;
 /// A smear of this length in pixels is as wide as blur from which on Sharpen is proposed (times the

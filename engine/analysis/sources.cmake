@@ -4,16 +4,19 @@ set(ORVANE_ANALYSIS_SOURCES
   analysis/Analyse.cpp analysis/Analyse.h
   analysis/BlockSpectrum.cpp analysis/BlockSpectrum.h
   analysis/Blur.cpp analysis/Blur.h
+  analysis/BlurFit.cpp analysis/BlurFit.h
+  analysis/BlurKernel.cpp analysis/BlurKernel.h
+  analysis/BlurShape.cpp analysis/BlurShape.h
   analysis/ClippedNoise.cpp analysis/ClippedNoise.h
   analysis/Compression.cpp analysis/Compression.h
   analysis/EdgeWidths.cpp analysis/EdgeWidths.h
   analysis/Findings.cpp
   analysis/ImageStatistics.cpp analysis/ImageStatistics.h
-  analysis/Motion.cpp analysis/Motion.h
   analysis/Noise.cpp analysis/Noise.h
   analysis/NoiseAdvice.cpp
   analysis/NoiseVariance.cpp analysis/NoiseVariance.h
   analysis/Planes.cpp analysis/Planes.h
+  analysis/PowerSpectrum.cpp analysis/PowerSpectrum.h
   analysis/Sampling.cpp analysis/Sampling.h
   analysis/SharpenAdvice.cpp
   analysis/SizeAdvice.cpp

@@ -16,7 +16,8 @@ ImageStatistics measured(double noise, double blur) {
     s.height = 4000;
     s.noise.fill(float(noise / 255));
     s.lumaNoise = float(0.669 * noise / 255);
-    s.blur = float(blur);
+    s.blur = s.softness = float(blur);
+    s.blurKind = BlurKind::Soft;
     s.edgeShare = 0.05f;
     s.lumaLow = 0.03f;
     s.lumaMedian = 0.45f;
@@ -78,6 +79,14 @@ TEST(Advice, EachPreferenceSaysWhatItSays) {
     const auto none = [](Case &) {};
     const auto raw = [](Case &c) { c.input.isRaw = true; };
     const auto both = [](auto a, auto b) { return [=](Case &c) { a(c), b(c); }; };
+    const auto noNoise = levels(&P::denoiseLevels, "");
+    const auto kind = [](BlurKind wanted, float radius, float length) {
+        return [=](Case &c) {
+            c.statistics.blurKind = wanted;
+            c.statistics.defocusRadius = radius;
+            c.statistics.motionLength = length;
+        };
+    };
     const Row rows[] = {
         {"clean", 0.5, 0.6, none, "Denoise", false, nullptr},
         {"clean, sharpen", 0.5, 0.6, none, "Sharpen", false, nullptr},
@@ -102,6 +111,17 @@ TEST(Advice, EachPreferenceSaysWhatItSays) {
         {"soft on request", 0.5, 1.0, levels(&P::sharpenBlurs, "low"), "Sharpen", true, nullptr},
         {"blurry", 0.5, 1.6, none, "Sharpen", true, "Sharpen Standard v2"},
         {"very blurry", 0.5, 3, none, "Sharpen", true, "Sharpen Strong"},
+        {"blurry, kind open", 0.5, 1.6, kind(BlurKind::Unknown, 0, 0), "Sharpen", true, "Sharpen Strong"},
+        {"edges soft by nature", 0.5, 1.6, [](Case &c) { c.statistics.softness = 0.3f; }, "Sharpen", false,
+         nullptr},
+        {"sharp edges, missing detail", 0.5, 1.0, [](Case &c) { c.statistics.softness = 1.8f; }, "Sharpen",
+         true, nullptr},
+        {"noise over the detail: edges alone", 5, 1.6,
+         both(noNoise, [](Case &c) { c.statistics.softness = 0; }), "Sharpen", true, nullptr},
+        {"out of focus", 0.5, 0.6, kind(BlurKind::Defocus, 4, 0), "Sharpen", true, "Sharpen Standard"},
+        {"hardly out of focus", 0.5, 0.6, kind(BlurKind::Defocus, 2, 0), "Sharpen", false, nullptr},
+        {"smeared", 0.5, 0.6, kind(BlurKind::Motion, 0, 6), "Sharpen", true, "Sharpen Standard"},
+        {"hardly smeared", 0.5, 0.6, kind(BlurKind::Motion, 0, 4), "Sharpen", false, nullptr},
         {"only very blurry", 0.5, 2, levels(&P::sharpenBlurs, "high"), "Sharpen", false, nullptr},
         {"forced small blur", 0.5, 3, as(&P::sharpeningModel, "smallblur"), "Sharpen", true,
          "Sharpen Standard v2"},
@@ -181,7 +201,7 @@ TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
     EXPECT_NEAR(noisy.number("Denoise", "param1"), 20.0 / 100, 0.01);
     Case blurry = with(0.5, 1.8);
     EXPECT_EQ(blurry.number("Sharpen", "param2"), blurry.number("Sharpen", "std_blur"));
-    EXPECT_NEAR(blurry.number("Sharpen", "std_blur") * StrengthScale::sharpenStandard.maximum, 1.95, 0.1);
+    EXPECT_NEAR(blurry.number("Sharpen", "std_blur") * StrengthScale::sharpenStandard.maximum, 1.78, 0.05);
     double denoise = 0;
     double sharpen = 0;
     for (const int strength : {0, 1, 2, 3, 4}) {
@@ -198,11 +218,20 @@ TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
     both.preferences().denoiseLevels = {};
     EXPECT_NEAR(both.number("Sharpen", "param1"), 1, 1e-9);
     Case smeared = with(0.5, 0.8);
-    smeared.statistics.motionBlur = true;
+    smeared.statistics.blurKind = BlurKind::Motion;
     smeared.statistics.motionLength = 6;
     EXPECT_TRUE(smeared.enabled("Sharpen"));
     EXPECT_NEAR(smeared.number("Sharpen", "param2"), StrengthScale::sharpenMotion.strength(6), 0.01);
     EXPECT_FALSE(smeared.entry("Sharpen").value(words("isLens")).toBool());
+    Case defocused = with(0.5, 0.8);
+    defocused.statistics.blurKind = BlurKind::Defocus;
+    defocused.statistics.defocusRadius = 5;
+    EXPECT_NEAR(defocused.number("Sharpen", "param2"), StrengthScale::sharpenLens.strength(5), 0.03);
+    EXPECT_TRUE(defocused.entry("Sharpen").value(words("isLens")).toBool());
+    // Too much is worse than too little: less is taken back where the kind of blur is open.
+    Case open = with(0.5, 2.8);
+    open.statistics.blurKind = BlurKind::Unknown;
+    EXPECT_LT(open.number("Sharpen", "param2"), 0.9 * with(0.5, 2.8).number("Sharpen", "param2"));
     smeared.preferences().sharpeningModel = words("lensblur");
     EXPECT_TRUE(smeared.entry("Sharpen").value(words("isLens")).toBool());
 

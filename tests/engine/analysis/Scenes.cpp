@@ -107,6 +107,39 @@ Picture still(int width, int height) {
     return picture;
 }
 
+Picture leaves(int width, int height) {
+    constexpr int Fine = 3, Count = 6000;
+    constexpr double Smallest = 1.5, Largest = 90;
+    std::mt19937 random(7);
+    const auto next = [&random](double most) {
+        return most * double(random()) / double(std::mt19937::max());
+    };
+    Picture large = flat(width * Fine, height * Fine, {0.5f, 0.5f, 0.5f});
+    for (int i = 0; i < Count; ++i) {
+        // As many of each size as cover the same area.
+        const double radius = Fine / std::sqrt(1 / (Largest * Largest) + next(1 / (Smallest * Smallest)));
+        const double x = next(large[0].width);
+        const double y = next(large[0].height);
+        const double grey = 0.15 + next(0.7);
+        for (int row = std::max(0, int(y - radius)); row < std::min(large[0].height, int(y + radius));
+             ++row) {
+            const double half = std::sqrt(std::max(0.0, radius * radius - (row - y) * (row - y)));
+            for (int at = std::max(0, int(x - half)); at < std::min(large[0].width, int(x + half)); ++at) {
+                for (std::size_t c = 0; c < 3; ++c)
+                    large[c].at(at, row) = float(grey + 0.04 * double(c));
+            }
+        }
+    }
+    Picture picture = flat(width, height, {});
+    for (std::size_t c = 0; c < 3; ++c) {
+        for (int y = 0; y < height * Fine; ++y) {
+            for (int x = 0; x < width * Fine; ++x)
+                picture[c].at(x / Fine, y / Fine) += large[c].at(x, y) / (Fine * Fine);
+        }
+    }
+    return picture;
+}
+
 Picture noisy(const Picture &picture, double sigma) {
     return grainy(picture, sigma, 0);
 }
@@ -130,6 +163,32 @@ Picture blurred(const Picture &picture, double sigma) {
     Picture result;
     for (std::size_t c = 0; c < 3; ++c)
         result[c] = Analysis::smoothed(picture[c], float(sigma));
+    return result;
+}
+
+Picture defocused(const Picture &picture, double radius) {
+    const int reach = int(std::ceil(radius));
+    Picture result = flat(picture[0].width, picture[0].height, {});
+    for (std::size_t c = 0; c < 3; ++c) {
+        const Plane &source = picture[c];
+        double weights = 0;
+        for (int j = -reach; j <= reach; ++j) {
+            for (int i = -reach; i <= reach; ++i) {
+                const auto weight = float(std::clamp(radius + 0.5 - std::hypot(i, j), 0.0, 1.0));
+                if (weight <= 0)
+                    continue;
+                weights += double(weight);
+                for (int y = 0; y < source.height; ++y) {
+                    const float *from = source.row(std::clamp(y + j, 0, source.height - 1));
+                    float *to = result[c].row(y);
+                    for (int x = 0; x < source.width; ++x)
+                        to[x] += weight * from[std::clamp(x + i, 0, source.width - 1)];
+                }
+            }
+        }
+        for (float &value : result[c].values)
+            value /= float(weights);
+    }
     return result;
 }
 

@@ -20,11 +20,16 @@ Picture flat(int width, int height, const std::array<float, 3> &colour);
 /// Slopes, discs and bars with sharp edges, a checked and a grainless textured corner, in colour.
 Picture still(int width, int height);
 
+/// Leaves of all sizes over one another: has the spectrum of a detailed photograph.
+Picture leaves(int width, int height);
+
 /// White noise, independent in the channels; `sigma` on the 8-bit scale.
 Picture noisy(const Picture &picture, double sigma);
 /// Noise that is correlated like white noise smoothed by `grain` pixels.
 Picture grainy(const Picture &picture, double sigma, double grain);
 Picture blurred(const Picture &picture, double sigma);
+/// As by a lens out of focus, every point a disc of this radius.
+Picture defocused(const Picture &picture, double radius);
 /// Smeared over `length` pixels at `angle` (radians, counter-clockwise).
 Picture smeared(const Picture &picture, int length, double angle);
 Picture tinted(const Picture &picture, const std::array<float, 3> &gains);
