@@ -31,6 +31,12 @@ T.AbstractButton {
     property alias tooltip: _tip
 
     readonly property bool _small: size === PbButton.Size.Compact
+    readonly property bool _lit: hovered || down
+
+    // The ring that shows where the keyboard is.
+    function focusRing(): PbFocusRing {
+        return PbFocusRings.of(_top, background, PebbleStyle.size.mediumRadius);
+    }
 
     padding: _small ? PebbleStyle.size.buttonPaddingCompact : PebbleStyle.size.buttonPadding
     topPadding: 0
@@ -47,28 +53,52 @@ T.AbstractButton {
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()
 
+    onVisualFocusChanged: focusRing()
+
     background: Rectangle {
         radius: PebbleStyle.size.mediumRadius
-        color: _top.style.background.pick(_top.enabled, _top.hovered || _top.down, _top.selected)
-
-        PbFocusRing {
-            target: _top
-            targetRadius: PebbleStyle.size.mediumRadius
-        }
+        color: _top.style.background.pick(_top.enabled, _top._lit, _top.selected)
     }
 
-    contentItem: PbButtonContent {
-        iconSource: _top.iconSource
-        iconWidth: _top.iconWidth
-        iconHeight: _top.iconHeight
-        iconColor: _top.style.icon.pick(_top.enabled, _top.hovered || _top.down, _top.selected)
-        text: _top.showText ? _top.text : ""
-        textColor: _top.style.label.pick(_top.enabled, _top.hovered || _top.down, _top.selected)
-        textType: _top._small ? PbLabel.Type.Title : PbLabel.Type.CTA
-        spacing: _top.contentSpacing
-        layoutDirection: _top.layoutDirection
-        center: _top.alignCenter
-        fill: _top.fillWidth
+    contentItem: Item {
+        id: _content
+
+        readonly property bool _hasIcon: _icon.status !== Image.Null
+        readonly property bool _hasText: _label.text !== ""
+        readonly property real _iconSpace: _hasIcon ? _icon.width + (_hasText ? _top.contentSpacing : 0) : 0
+        readonly property real _textSpace: {
+            const room = Math.max(0, width - _iconSpace);
+            return _top.fillWidth ? room : Math.min(_label.implicitWidth, room);
+        }
+        readonly property bool _mirrored: _top.layoutDirection === Qt.RightToLeft
+        readonly property real _start: {
+            const rest = width - _iconSpace - (_hasText ? _textSpace : 0);
+            return _top.alignCenter ? Math.round(rest / 2) : _mirrored ? rest : 0;
+        }
+
+        implicitWidth: _iconSpace + (_hasText ? _label.implicitWidth : 0)
+        implicitHeight: Math.max(_hasIcon ? _icon.height : 0, _hasText ? _label.implicitHeight : 0)
+
+        PbIcon {
+            id: _icon
+            x: _content._start + (_content._mirrored && _content._hasText ? _content._textSpace + _top.contentSpacing : 0)
+            anchors.verticalCenter: parent.verticalCenter
+            iconSource: _top.iconSource
+            iconWidth: _top.iconWidth
+            iconHeight: _top.iconHeight
+            color: _top.style.icon.pick(_top.enabled, _top._lit, _top.selected)
+        }
+
+        PbText {
+            id: _label
+            x: _content._start + (_content._mirrored ? 0 : _content._iconSpace)
+            anchors.verticalCenter: parent.verticalCenter
+            width: _content._textSpace
+            text: _top.showText ? _top.text : ""
+            type: _top._small ? PbLabel.Type.Title : PbLabel.Type.CTA
+            color: _top.style.label.pick(_top.enabled, _top._lit, _top.selected)
+            horizontalAlignment: _top.alignCenter ? Text.AlignHCenter : Text.AlignLeft
+        }
     }
 
     PbHoverTip {

@@ -11,6 +11,11 @@ T.CheckBox {
 
     readonly property bool _set: checkState !== Qt.Unchecked
 
+    // The ring that shows where the keyboard is.
+    function focusRing(): PbFocusRing {
+        return PbFocusRings.of(_top, indicator, PebbleStyle.size.spacingTiny);
+    }
+
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
     padding: PebbleStyle.size.spacingSmall
@@ -19,6 +24,7 @@ T.CheckBox {
     implicitHeight: Math.max(implicitContentHeight, indicatorSize) + topPadding + bottomPadding
     Accessible.name: text
     Accessible.description: tooltip.text
+    onVisualFocusChanged: focusRing()
 
     indicator: Rectangle {
         x: _top.leftPadding
@@ -37,11 +43,6 @@ T.CheckBox {
             iconSource: !_top._set ? "" : _top.checkState === Qt.Checked ? PebbleStyle.icon.check
                                                                           : PebbleStyle.icon.minus
             color: PebbleStyle.color.alwaysDark
-        }
-
-        PbFocusRing {
-            target: _top
-            targetRadius: parent.radius
         }
     }
 

@@ -35,6 +35,11 @@ T.ComboBox {
         PbBoundProperty.write(_top, "currentIndex", Math.max(0, _rows.indexOf(value, valueRole)));
     }
 
+    // The ring that shows where the keyboard is.
+    function focusRing(): PbFocusRing {
+        return PbFocusRings.of(_top, background, PebbleStyle.size.smallRadius);
+    }
+
     textRole: _rows.isPlain ? "" : "text"
     valueRole: _rows.isPlain ? "" : "value"
     implicitWidth: PebbleStyle.size.comboWidth
@@ -67,8 +72,9 @@ T.ComboBox {
         _openedBy = 0;
     }
 
+    onVisualFocusChanged: focusRing()
+
     background: PbComboFrame {
-        target: _top
         active: _top.hovered || _top.down
         outlineColor: _top.outline === PbComboBox.Outline.Error ? PebbleStyle.color.darkRed
                     : _top.outline === PbComboBox.Outline.Warning ? PebbleStyle.color.warningYellow : PebbleStyle.color.clear
@@ -78,8 +84,8 @@ T.ComboBox {
         iconSource: _top.iconSource
         iconSize: _top.iconSize
         text: _top.displayText
-        textAlignment: _top.textAlignment
-        textElide: _top.textElide
+        horizontalAlignment: _top.textAlignment
+        elide: _top.textElide
     }
 
     indicator: PbComboIndicator {

@@ -5,7 +5,6 @@ import PebbleUI
 Rectangle {
     id: _top
 
-    required property Item target
     required property bool active
     required property color outlineColor
 
@@ -16,9 +15,4 @@ Rectangle {
     border.width: _outlined ? PebbleStyle.size.focusRing : PebbleStyle.size.border
     border.color: _outlined ? outlineColor : PebbleStyle.color.gray
     opacity: enabled ? 1 : PebbleStyle.size.disabledOpacity
-
-    PbFocusRing {
-        target: _top.target
-        targetRadius: _top.radius
-    }
 }

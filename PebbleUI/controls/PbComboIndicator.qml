@@ -1,25 +1,23 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import PebbleUI
 
 // The mark at a choice's right end: an arrow, or a spinner while its rows are being fetched.
-Item {
+PbIcon {
     id: _top
 
     required property bool busy
 
-    width: PebbleStyle.size.icon
-    height: PebbleStyle.size.icon
+    iconSource: busy ? "" : PebbleStyle.icon.chevronDown
+    color: enabled ? PebbleStyle.color.lighterGray : PebbleStyle.color.textDisabled
+    visible: true
 
-    PbIcon {
-        anchors.fill: parent
-        visible: !_top.busy
-        iconSource: PebbleStyle.icon.chevronDown
-        color: _top.enabled ? PebbleStyle.color.lighterGray : PebbleStyle.color.textDisabled
-    }
-
-    PbBusySpinner {
-        objectName: "spinner"
+    Loader {
+        active: _top.busy
         anchors.centerIn: parent
-        running: _top.busy
+        sourceComponent: PbBusySpinner {
+            objectName: "spinner"
+        }
     }
 }

@@ -22,6 +22,11 @@ T.AbstractButton {
     readonly property color _noteInk: selected || hovered || down ? _ink : PebbleStyle.color.lighterGray
     readonly property string _valueText: showValue ? String(value ?? "") : ""
 
+    // The ring that shows where the keyboard is.
+    function focusRing(): PbFocusRing {
+        return PbFocusRings.of(_top, background, PebbleStyle.size.smallRadius);
+    }
+
     padding: PebbleStyle.size.spacing
     topPadding: 0
     bottomPadding: 0
@@ -37,17 +42,13 @@ T.AbstractButton {
     Accessible.checked: selected
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()
+    onVisualFocusChanged: focusRing()
 
     background: Rectangle {
         radius: PebbleStyle.size.smallRadius
         color: _top._style.background.pick(_top.enabled, _top.hovered || _top.down, _top.selected)
         border.width: _top.selected ? PebbleStyle.size.border : 0
         border.color: _top.enabled ? PebbleStyle.color.primeBlue : PebbleStyle.color.gray
-
-        PbFocusRing {
-            target: _top
-            targetRadius: parent.radius
-        }
     }
 
     contentItem: Item {

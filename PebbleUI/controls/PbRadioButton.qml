@@ -9,6 +9,11 @@ T.RadioButton {
     property int labelType: PbLabel.Type.Body
     property alias tooltip: _tip
 
+    // The ring that shows where the keyboard is.
+    function focusRing(): PbFocusRing {
+        return PbFocusRings.of(_top, indicator, indicatorSize / 2);
+    }
+
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
     padding: PebbleStyle.size.spacingSmall
@@ -17,6 +22,7 @@ T.RadioButton {
     implicitHeight: Math.max(implicitContentHeight, indicatorSize) + topPadding + bottomPadding
     Accessible.name: text
     Accessible.description: tooltip.text
+    onVisualFocusChanged: focusRing()
 
     indicator: Rectangle {
         x: _top.leftPadding
@@ -36,11 +42,6 @@ T.RadioButton {
             height: width
             radius: width / 2
             color: PebbleStyle.color.white
-        }
-
-        PbFocusRing {
-            target: _top
-            targetRadius: parent.radius
         }
     }
 

@@ -29,6 +29,11 @@ T.Slider {
         editingFinished();
     }
 
+    // The ring that shows where the keyboard is.
+    function focusRing(): PbFocusRing {
+        return PbFocusRings.of(_top, handle, PebbleStyle.size.sliderHandle / 2);
+    }
+
     from: 0
     to: 100
     stepSize: 1
@@ -57,6 +62,7 @@ T.Slider {
             resetValue();
         }
     }
+    onVisualFocusChanged: focusRing()
 
     background: PbSliderTrack {
         trackX: _top.leftPadding
@@ -77,11 +83,6 @@ T.Slider {
         radius: width / 2
         color: !_top.enabled ? PebbleStyle.color.gray
              : _top.hovered || _top.pressed ? PebbleStyle.color.white : PebbleStyle.color.lightestGray
-
-        PbFocusRing {
-            target: _top
-            targetRadius: parent.radius
-        }
 
         // The first press of a pair passes through to the slider, so that a drag can begin at once.
         MouseArea {

@@ -9,6 +9,11 @@ T.Switch {
     property int labelType: PbLabel.Type.Body
     property alias tooltip: _tip
 
+    // The ring that shows where the keyboard is.
+    function focusRing(): PbFocusRing {
+        return PbFocusRings.of(_top, indicator, indicatorSize / 2);
+    }
+
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
     padding: PebbleStyle.size.spacingSmall
@@ -17,6 +22,7 @@ T.Switch {
     implicitHeight: Math.max(implicitContentHeight, indicatorSize) + topPadding + bottomPadding
     Accessible.name: text
     Accessible.description: tooltip.text
+    onVisualFocusChanged: focusRing()
 
     indicator: Rectangle {
         x: _top.leftPadding
@@ -43,11 +49,6 @@ T.Switch {
                 enabled: !_top.pressed
                 NumberAnimation { duration: PebbleStyle.time.fade }
             }
-        }
-
-        PbFocusRing {
-            target: _top
-            targetRadius: parent.radius
         }
     }
 

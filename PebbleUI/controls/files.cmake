@@ -3,7 +3,6 @@ list(APPEND PEBBLE_QML
   controls/PbAutoPilotDot.qml
   controls/PbBusySpinner.qml
   controls/PbButton.qml
-  controls/PbButtonContent.qml
   controls/PbButtonStyle.qml
   controls/PbCheckBox.qml
   controls/PbComboBox.qml

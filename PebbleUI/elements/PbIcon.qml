@@ -18,5 +18,4 @@ Image {
     source: PbIconSource.tinted(iconSource, color)
     fillMode: Image.PreserveAspectFit
     visible: status === Image.Ready
-    Accessible.ignored: true
 }

@@ -4,3 +4,6 @@ list(APPEND PEBBLE_QML
   elements/PbIcon.qml
   elements/PbText.qml
 )
+list(APPEND PEBBLE_SINGLETONS
+  elements/PbFocusRings.qml
+)

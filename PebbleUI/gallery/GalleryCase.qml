@@ -12,9 +12,8 @@ Item {
     default property alias content: _slot.data
 
     function _reveal(item: Item): void {
-        const ring = item as PbFocusRing;
-        if (ring)
-            ring.visible = true;
+        if (item["focusRing"])
+            item["focusRing"]().visible = true;
         for (const child of item.children)
             _reveal(child);
     }

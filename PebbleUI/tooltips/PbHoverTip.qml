@@ -22,67 +22,81 @@ Item {
     property real offsetY: 0
     property Item plane: PebbleStyle.tooltipPlane
     property bool hugContents: false
-    readonly property bool hovered: _hover?.hovered ?? false
+    readonly property bool hovered: _watch?.hovered ?? false
 
-    // The control whose keyboard focus shows the tip too.
-    property Item focusTarget: parent
+    // The control whose keyboard focus shows the tip too; null for the item that the tip lies in.
+    property Item focusTarget: null
 
     readonly property bool _filled: title !== "" || text !== ""
-    readonly property bool _wanted: _filled && visible && (hovered || _focused())
 
     // Made when there is something to show: most controls of a panel have no tip.
-    property HoverHandler _hover: null
-    property PbTooltipPlane _shownIn: null
-    property int _tipId: -1
-
-    function _focused(): bool {
-        const control = focusTarget as T.Control;
-        if (control !== null)
-            return control.visualFocus;
-        const field = focusTarget as T.TextField;
-        return field !== null && field.activeFocus
-            && (field.focusReason === Qt.TabFocusReason || field.focusReason === Qt.BacktabFocusReason);
-    }
-
-    function _update(): void {
-        _hide();
-        // The texts are asked once more: they may have emptied a moment before `_wanted` follows.
-        if (!_wanted || (title === "" && text === ""))
-            return;
-        _shownIn = plane as PbTooltipPlane;
-        if (!_shownIn) {
-            console.warn("PbHoverTip configured without tooltip plane!!");
-            return;
-        }
-        _tipId = _shownIn.showTip({
-            target: target, targetForX: targetForX, targetForY: targetForY,
-            title: title, text: text, textFormat: textFormat, alignment: alignment,
-            offsetX: offsetX, offsetY: offsetY, hugContents: hugContents,
-        });
-    }
-
-    function _hide(): void {
-        _shownIn?.hideTip(_tipId);
-        _shownIn = null;
-    }
+    property HoverHandler _watch: null
 
     anchors.fill: parent
     enabled: false
 
     on_FilledChanged: {
-        if (_filled && !_hover)
-            _hover = _handler.createObject(_top) as HoverHandler;
+        if (_filled && !_watch)
+            _watch = _watcher.createObject(_top) as HoverHandler;
     }
-    on_WantedChanged: _update()
-    onTitleChanged: _update()
-    onTextChanged: _update()
-    Component.onDestruction: _hide()
 
     Component {
-        id: _handler
+        id: _watcher
 
         HoverHandler {
+            id: _hover
+
+            readonly property bool wanted: enabled && _top.visible && (hovered || _focused())
+            property PbTooltipPlane shownIn: null
+            property int tipId: -1
+
+            readonly property Connections _texts: Connections {
+                target: _top
+
+                function onTitleChanged(): void {
+                    _hover.update();
+                }
+
+                function onTextChanged(): void {
+                    _hover.update();
+                }
+            }
+
+            function _focused(): bool {
+                const item = _top.focusTarget ?? _top.parent;
+                const control = item as T.Control;
+                if (control !== null)
+                    return control.visualFocus;
+                const field = item as T.TextField;
+                return field !== null && field.activeFocus
+                    && (field.focusReason === Qt.TabFocusReason || field.focusReason === Qt.BacktabFocusReason);
+            }
+
+            function update(): void {
+                hide();
+                // The texts are asked once more: they may have emptied a moment before `wanted` follows.
+                if (!wanted || (_top.title === "" && _top.text === ""))
+                    return;
+                shownIn = _top.plane as PbTooltipPlane;
+                if (!shownIn) {
+                    console.warn("PbHoverTip configured without tooltip plane!!");
+                    return;
+                }
+                tipId = shownIn.showTip({
+                    target: _top.target, targetForX: _top.targetForX, targetForY: _top.targetForY,
+                    title: _top.title, text: _top.text, textFormat: _top.textFormat, alignment: _top.alignment,
+                    offsetX: _top.offsetX, offsetY: _top.offsetY, hugContents: _top.hugContents,
+                });
+            }
+
+            function hide(): void {
+                shownIn?.hideTip(tipId);
+                shownIn = null;
+            }
+
             enabled: _top._filled
+            onWantedChanged: update()
+            Component.onDestruction: hide()
         }
     }
 }

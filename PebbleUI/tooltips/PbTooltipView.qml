@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls.Fusion
 import PebbleUI
 
 // One tooltip: a title, a text, or both. As wide as its content when hugging, but never wider than usual.
@@ -19,23 +18,14 @@ Rectangle {
         ? Math.min(_room, Math.ceil(Math.max(_title.implicitWidth, _text.implicitWidth)))
         : _room
 
-    // Not a PbLabel: labels have tooltips, and a tooltip made of labels would be made of itself.
-    component Line: Label {
-        required property PbTextRole role
-
+    component Line: PbText {
         x: PebbleStyle.size.tipMargin
         width: _top._content
         visible: text !== ""
         color: PebbleStyle.color.textLight
-        linkColor: PebbleStyle.color.primeBlue
-        textFormat: Text.PlainText
+        elide: Text.ElideNone
         wrapMode: Text.Wrap
-        lineHeight: role.lineHeight
-        lineHeightMode: Text.FixedHeight
-        font.family: PebbleStyle.font.family
-        font.pointSize: PebbleStyle.pointSize(role.size)
-        font.weight: role.weight
-        Accessible.ignored: true
+        verticalAlignment: Text.AlignTop
     }
 
     width: _content + 2 * PebbleStyle.size.tipMargin
@@ -52,12 +42,11 @@ Rectangle {
     Line {
         id: _title
         y: PebbleStyle.size.tipMargin
-        role: PebbleStyle.font.title
+        type: PbLabel.Type.Title
     }
 
     Line {
         id: _text
         y: PebbleStyle.size.tipMargin + (_top.title !== "" ? _title.height + _top._gap : 0)
-        role: PebbleStyle.font.body
     }
 }
