@@ -5,7 +5,22 @@
 #include "engine/analysis/Compression.h"
 #include "engine/analysis/Noise.h"
 #include "engine/analysis/Sampling.h"
+#include "engine/analysis/Smoothing.h"
 #include "engine/analysis/Tones.h"
+
+namespace {
+
+/// Half as large. Light has no fine detail, and noise, which is grey, would make it look sure.
+Analysis::Crop halfOf(const Analysis::Crop &crop) {
+    using namespace Analysis;
+    Crop half;
+    for (std::size_t c = 0; c < 3; ++c)
+        half.rgb[c] = halved(crop.rgb[c]);
+    half.luma = halved(crop.luma);
+    return half;
+}
+
+} // namespace
 
 ImageStatistics measureImage(const ImageData &image, std::stop_token stop) {
     using namespace Analysis;
@@ -24,7 +39,7 @@ ImageStatistics measureImage(const ImageData &image, std::stop_token stop) {
         return answer;
     const Crop small = readSmall(image, SmallSide);
     const Tones tones = measureTones(small);
-    const Light light = measureLight(small);
+    const Light light = measureLight(halfOf(halfOf(small)));
 
     answer.width = image.width();
     answer.height = image.height();

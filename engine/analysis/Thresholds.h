@@ -66,15 +66,16 @@ inline constexpr double MaxScale = 6;
 inline constexpr int MaxSide = 32'000;
 
 // Exposure. A picture is dark when half of it lies below the first and nothing comes near white;
-// bright the other way round. Night scenes with lamps and snow with shadows are left alone.
+// bright the other way round. Night scenes with lamps and snow with shadows are left alone; blur takes as
+// much as a quarter off the brightest values of a dim wood, so that white has to be two stops away.
 inline constexpr double DarkMedian = 0.2;
-inline constexpr double DarkHighest = 0.6;
+inline constexpr double DarkHighest = 0.45;
 inline constexpr double BrightMedian = 0.85;
 inline constexpr double BrightLowest = 0.35;
 
 // Colour cast: deviation of the light from white, as the largest natural logarithm of a channel
 // over green, and how far the guesses of the light must agree. Evening light is below it.
 inline constexpr double Cast = 0.25;
-inline constexpr double CastConfidence = 0.75;
+inline constexpr double CastConfidence = 0.8;
 
 } // namespace Thresholds

@@ -158,5 +158,14 @@ TEST(Tones, PercentilesClippingAndLight) {
     const ImageStatistics warm = measured(tinted(grey, {1.15f, 1, 0.8f}));
     EXPECT_GT(warm.illuminant[0], 1.1f);
     EXPECT_LT(warm.illuminant[2], 0.7f);
-    EXPECT_GT(warm.castConfidence, 0.75f);
+    EXPECT_GT(warm.castConfidence, 0.8f);
+    // What the light is has nothing to do with noise and blur.
+    const Picture dusk = tinted(scene(), {1.2f, 1, 0.75f});
+    const ImageStatistics before = measured(dusk);
+    for (const Picture &spoilt : {noisy(dusk, 20), blurred(dusk, 3)}) {
+        const ImageStatistics after = measured(spoilt);
+        EXPECT_NEAR(after.illuminant[0], before.illuminant[0], 0.05);
+        EXPECT_NEAR(after.illuminant[2], before.illuminant[2], 0.05);
+        EXPECT_NEAR(after.castConfidence, before.castConfidence, 0.1);
+    }
 }
