@@ -1,88 +1,87 @@
-"""Draws training batches: (degraded picture, conditions, clean picture)."""
-import math
-
-import numpy
+"""Draws training batches on a device: (degraded picture, conditions, clean picture)."""
 import torch
 
 import degrade
-from photographs import patches
+import jpeg
+import sensor
+from draws import Draws, crops
+from photographs import pool
+
+MARGIN = 16
 
 
 class Batches:
-    def __init__(self, recipe, seed):
+    def __init__(self, recipe, seed, device):
         self.recipe = recipe
-        self.random = numpy.random.default_rng(seed)
-        self.patches = patches()
-        self.smeared = degrade.Sheets(self.random, degrade.correlated_noise, (0.4, 0.5, 0.6, 0.8, 1.0))
-        self.blotches = degrade.Sheets(self.random, degrade.chroma_noise, (1.0, 1.5, 2.2, 3.0, 4.0))
+        self.draws = Draws(seed, device)
+        self.pools = [(pool(name).to(device), share) for name, share in recipe.sources]
+        self.smeared = degrade.Sheets(self.draws, degrade.correlated_noise, (0.4, 0.5, 0.6, 0.8, 1.0))
+        self.blotches = degrade.Sheets(self.draws, degrade.chroma_noise, (1.0, 1.5, 2.2, 3.0, 4.0))
 
     def __call__(self):
-        clean = self._clean()
-        if self.recipe.scale == 1:
-            degraded, conditions = self._degraded(clean)
-        else:
-            small = degrade.shrunk(self.random, clean, self.recipe.scale)
-            degraded, conditions = self._degraded(small)
-        return degraded, conditions, clean
+        scale = self.recipe.scale
+        clean = self._clean(self.recipe.side + MARGIN * scale)
+        picture = clean if scale == 1 else degrade.shrunk(self.draws, clean, scale)
+        degraded, conditions = self._degraded(picture)
+        # Cut out at any place, so that blocks of compression and edges don't keep to the patch.
+        top, left, side = self.draws.once(MARGIN + 1), self.draws.once(MARGIN + 1), self.recipe.side // scale
+        degraded = degraded[:, :, top : top + side, left : left + side]
+        top, left, side = top * scale, left * scale, self.recipe.side
+        return degraded, conditions, clean[:, :, top : top + side, left : left + side]
 
-    def _clean(self):
-        side, random = self.recipe.side, self.random
-        pixels = []
-        for index in random.integers(0, len(self.patches), self.recipe.batch):
-            top, left = random.integers(0, self.patches.shape[1] - side + 1, 2)
-            patch = self.patches[index, top : top + side, left : left + side]
-            patch = numpy.rot90(patch, random.integers(4))
-            if random.random() < 0.5:
-                patch = patch[:, ::-1]
-            if random.random() < 0.3:
-                patch = patch[:, :, random.permutation(3)]
-            pixels.append(patch)
-        return torch.from_numpy(numpy.stack(pixels)).permute(0, 3, 1, 2).float().contiguous() / 255
+    def _clean(self, side):
+        count, parts = self.recipe.batch, []
+        for pictures, share in self.pools:
+            parts.append(crops(self.draws, pictures, min(round(self.recipe.batch * share), count), side))
+            count -= len(parts[-1])
+        clean = torch.cat(parts).float() / 255
+        order = torch.rand(len(clean), 3, generator=self.draws.generator, device=self.draws.device).argsort(1)
+        swapped = torch.gather(clean, 1, order[:, :, None, None].expand_as(clean))
+        return torch.where(self.draws.chance(len(clean), 0.3)[:, None, None, None], swapped, clean)
 
-    def _kernel(self):
-        mix, random = self.recipe.mix, self.random
-        if random.random() >= mix.blur:
-            return None
-        kind = mix.kinds[random.integers(len(mix.kinds))]
-        if kind == "gaussian":
-            return degrade.gaussian_kernel(random.uniform(*mix.gaussian))
-        if kind == "disc":
-            return degrade.disc_kernel(random.uniform(*mix.disc))
-        return degrade.line_kernel(random.uniform(*mix.line), random.uniform(0, math.pi))
+    def _kernels(self, count):
+        mix, draws = self.recipe.mix, self.draws
+        kinds = {
+            "gaussian": lambda: degrade.gaussian_kernels(draws.uniform(count, *mix.gaussian)),
+            "disc": lambda: degrade.disc_kernels(draws.uniform(count, *mix.disc)),
+            "line": lambda: degrade.line_kernels(draws.uniform(count, *mix.line), degrade.half_turn(draws, count)),
+        }
+        drawn = torch.stack([kinds[kind]() for kind in mix.kinds])
+        return drawn[draws.index(count, len(mix.kinds)), torch.arange(count, device=draws.device)]
 
-    def _noise(self, clean):
-        mix, random, count = self.recipe.mix, self.random, len(clean)
-        low, high = mix.noise_range
-        sigma = torch.from_numpy(random.uniform(low, high, count) * (random.random(count) < mix.noise)).float()
-        field = degrade.white_noise(random, clean.shape)
-        gain = degrade.camera_gain(clean)
-        for i in range(count):
-            if random.random() < mix.correlated:
-                field[i] = self.smeared.patch(*clean.shape[2:])
-            if random.random() < mix.camera:
-                field[i] *= gain[i]
+    def _noise(self, picture):
+        mix, draws, count, side = self.recipe.mix, self.draws, len(picture), picture.shape[2]
+        sigma = draws.uniform(count, *mix.noise_range) * draws.chance(count, mix.noise)
+        smeared = draws.chance(count, mix.correlated)[:, None, None, None]
+        field = torch.where(smeared, self.smeared(count, side), draws.normal(picture.shape))
+        camera = draws.chance(count, mix.camera)[:, None, None, None]
+        field = torch.where(camera, field * degrade.camera_gain(picture), field)
         return field * (sigma / 255)[:, None, None, None], sigma
 
-    def _chroma(self, clean):
-        mix, random, count = self.recipe.mix, self.random, len(clean)
-        level = torch.from_numpy(random.uniform(*mix.chroma_range, count) * (random.random(count) < mix.chroma)).float()
-        field = torch.zeros_like(clean)
-        for i in torch.nonzero(level).flatten().tolist():
-            field[i] = self.blotches.patch(*clean.shape[2:]) * level[i] / 255
-        return field, level
-
-    def _degraded(self, clean):
-        mix, random, count = self.recipe.mix, self.random, len(clean)
-        kernels = [self._kernel() for _ in range(count)]
-        degraded = degrade.blurred(clean, kernels)
+    def _degraded(self, picture):
+        mix, draws, count = self.recipe.mix, self.draws, len(picture)
+        degraded = picture.clone()
+        spread = torch.zeros(count, device=draws.device)
+        blurred = draws.some(count, mix.blur)
+        if len(blurred):
+            kernels = self._kernels(len(blurred))
+            degraded[blurred] = degrade.blurred(picture[blurred], kernels)
+            spread[blurred] = degrade.spread(kernels)
         noise, sigma = self._noise(degraded)
-        chroma, level = self._chroma(degraded)
-        qualities = [
-            int(random.integers(*mix.jpeg_range)) if random.random() < mix.jpeg else None for _ in range(count)
-        ]
-        degraded = degrade.compressed(degrade.stored(degraded + noise + chroma), qualities)
-        spread = torch.tensor([0.0 if kernel is None else degrade.spread(kernel) for kernel in kernels])
-        worn = torch.tensor([0.0 if quality is None else (100 - quality) / 90 for quality in qualities])
+        level = draws.uniform(count, *mix.chroma_range) * draws.chance(count, mix.chroma)
+        blotches = self.blotches(count, picture.shape[2]) * (level / 255)[:, None, None, None]
+        taken = draws.some(count, mix.sensor)
+        if len(taken):
+            degraded[taken], real = sensor.photographed(draws, degraded[taken], sigma[taken] / 255)
+            sigma[taken] = real * 255
+            noise[taken] = 0
+        degraded = degrade.stored(degraded + noise + blotches)
+        quality = torch.full((count,), 100.0, device=draws.device)
+        squeezed = draws.some(count, mix.jpeg)
+        if len(squeezed):
+            quality[squeezed] = draws.uniform(len(squeezed), *mix.jpeg_range).round()
+            degraded[squeezed] = jpeg.compressed(degraded[squeezed], quality[squeezed])
+        worn = (100 - quality) / 90
         if self.recipe.scale == 1:
             return degraded, torch.stack([sigma / 75, level / 30, spread / 4, worn], 1)
         return degraded, torch.stack([sigma / 50, spread / 2, worn], 1)

@@ -29,7 +29,7 @@ def _exported(name):
     file = next((file for file in found if file.exists()), None)
     if file is None:
         raise SystemExit(f"{name} has neither a checkpoint nor an exported file: train it first")
-    tensors = {t.name: torch.from_numpy(onnx.numpy_helper.to_array(t).copy()) for t in onnx.load(file).graph.initializer}
+    tensors = {t.name: torch.from_numpy(onnx.numpy_helper.to_array(t).astype("float32")) for t in onnx.load(file).graph.initializer}
     weights = {name: value for name, value in tensors.items() if name.endswith((".weight", ".bias"))}
     channels, inputs = weights["head.weight"].shape[:2]
     blocks = sum(key.endswith("first.weight") for key in weights)

@@ -1,103 +1,86 @@
-"""Degradations that cameras and files leave on photographs. Batches are float (n, 3, h, w) of encoded values 0..1.
+"""Degradations that cameras and files leave on photographs, for whole batches on any device.
 
-Each function takes a numpy random generator, so that a seed repeats a run.
+Batches are float (n, 3, h, w) of encoded values 0..1; kernels (n, 21, 21); the other parameters (n).
 """
-import io
 import math
 
-import numpy
 import torch
-from PIL import Image
 from torch.nn import functional as F
+
+from draws import crops
 
 KERNEL = 21
 
 
-def _field(random, shape):
-    return torch.randn(shape, generator=torch.Generator().manual_seed(int(random.integers(2**62))))
-
-
-def _grid():
-    axis = torch.arange(KERNEL, dtype=torch.float32) - KERNEL // 2
+def _grid(like):
+    axis = torch.arange(KERNEL, dtype=torch.float32, device=like.device) - KERNEL // 2
     return torch.meshgrid(axis, axis, indexing="ij")
 
 
-def gaussian_kernel(sigma):
-    y, x = _grid()
-    kernel = torch.exp(-(x * x + y * y) / (2 * sigma * sigma))
-    return kernel / kernel.sum()
+def _even(kernel):
+    return kernel / kernel.sum((1, 2), keepdim=True)
 
 
-def disc_kernel(radius):
+def gaussian_kernels(sigma):
+    y, x = _grid(sigma)
+    return _even(torch.exp(-(x * x + y * y) / (2 * sigma.square())[:, None, None]))
+
+
+def disc_kernels(radius):
     """A lens out of focus: an even disc with a soft edge one pixel wide."""
-    y, x = _grid()
-    kernel = (radius + 0.5 - torch.sqrt(x * x + y * y)).clamp(0, 1)
-    return kernel / kernel.sum()
+    y, x = _grid(radius)
+    return _even((radius[:, None, None] + 0.5 - torch.sqrt(x * x + y * y)).clamp(0, 1))
 
 
-def line_kernel(length, angle):
+def line_kernels(length, angle):
     """A camera that moved evenly along a line."""
-    y, x = _grid()
-    along = x * math.cos(angle) + y * math.sin(angle)
-    across = -x * math.sin(angle) + y * math.cos(angle)
-    kernel = (length / 2 + 0.5 - along.abs()).clamp(0, 1) * (1 - across.abs()).clamp(0, 1)
-    return kernel / kernel.sum()
+    y, x = _grid(length)
+    cos, sin = torch.cos(angle)[:, None, None], torch.sin(angle)[:, None, None]
+    along, across = x * cos + y * sin, -x * sin + y * cos
+    return _even((length[:, None, None] / 2 + 0.5 - along.abs()).clamp(0, 1) * (1 - across.abs()).clamp(0, 1))
 
 
-def spread(kernel):
-    """The kernel's largest root mean square width along one axis, in pixels."""
-    y, x = _grid()
-    xx, yy, xy = (kernel * x * x).sum(), (kernel * y * y).sum(), (kernel * x * y).sum()
-    half = torch.sqrt((xx - yy) ** 2 / 4 + xy**2)
-    return float(torch.sqrt((xx + yy) / 2 + half))
+def spread(kernels):
+    """Each kernel's largest root mean square width along one axis, in pixels."""
+    y, x = _grid(kernels)
+    xx, yy, xy = ((kernels * m).sum((1, 2)) for m in (x * x, y * y, x * y))
+    return torch.sqrt((xx + yy) / 2 + torch.sqrt((xx - yy).square() / 4 + xy.square()))
 
 
 def blurred(batch, kernels):
-    """Each picture of the batch with its own kernel (None leaves it as it is)."""
-    out = batch.clone()
-    for i, kernel in enumerate(kernels):
-        if kernel is not None:
-            margin = KERNEL // 2
-            picture = F.pad(batch[i : i + 1], (margin,) * 4, mode="reflect")
-            out[i] = F.conv2d(picture.transpose(0, 1), kernel[None, None]).transpose(0, 1)[0]
-    return out
+    """Each picture of the batch with its own kernel."""
+    n, c, h, w = batch.shape
+    wide = F.pad(batch, (KERNEL // 2,) * 4, mode="reflect").reshape(1, n * c, h + KERNEL - 1, w + KERNEL - 1)
+    return F.conv2d(wide, kernels.repeat_interleave(c, 0)[:, None], groups=n * c).reshape(batch.shape)
 
 
-def white_noise(random, shape):
-    return _field(random, shape)
-
-
-def correlated_noise(random, shape, width):
+def correlated_noise(draws, shape, width):
     """Noise that processing smeared over its neighbours; standard deviation 1."""
     n, c, h, w = shape
-    margin = KERNEL // 2
-    line = gaussian_kernel(width).sum(0)
-    field = _field(random, (n * c, 1, h + 2 * margin, w + 2 * margin))
+    line = gaussian_kernels(torch.tensor([float(width)], device=draws.device))[0].sum(0)
+    field = draws.normal((n * c, 1, h + KERNEL - 1, w + KERNEL - 1))
     field = F.conv2d(F.conv2d(field, line[None, None, None]), line[None, None, :, None])
     return field.reshape(shape) / line.square().sum()
 
 
-def chroma_noise(random, shape, width):
+def chroma_noise(draws, shape, width):
     """Coloured blotches without luminance; standard deviation 1 over the three channels together."""
-    field = correlated_noise(random, shape, width)
-    weights = torch.tensor([0.299, 0.587, 0.114])[None, :, None, None]
+    field = correlated_noise(draws, shape, width)
+    weights = torch.tensor([0.299, 0.587, 0.114], device=draws.device)[None, :, None, None]
     field = field - (field * weights).sum(1, keepdim=True)
     return field / field.std()
 
 
 class Sheets:
-    """Large sheets of smeared noise, drawn once: a patch of one costs less than new noise."""
+    """Large sheets of smeared noise, drawn once: a crop of one costs less than new noise."""
 
-    def __init__(self, random, draw, widths, side=1024):
-        self.random = random
-        self.sheets = [draw(random, (1, 3, side, side), width)[0] for width in widths]
+    def __init__(self, draws, draw, widths, side=1024):
+        self.draws = draws
+        self.pool = torch.cat([draw(draws, (1, 3, side, side), width) for width in widths])
 
-    def patch(self, height, width):
-        sheet = self.sheets[self.random.integers(len(self.sheets))]
-        top = int(self.random.integers(sheet.shape[1] - height + 1))
-        left = int(self.random.integers(sheet.shape[2] - width + 1))
-        patch = sheet[:, top : top + height, left : left + width]
-        return patch.flip(1) if self.random.random() < 0.5 else -patch.transpose(1, 2)
+    def __call__(self, count, side):
+        sign = torch.where(self.draws.chance(count, 0.5), 1.0, -1.0)
+        return crops(self.draws, self.pool, count, side) * sign[:, None, None, None]
 
 
 def camera_gain(clean):
@@ -105,32 +88,22 @@ def camera_gain(clean):
     return torch.sqrt(0.35 + 1.9 * clean * (1 - 0.55 * clean))
 
 
-def compressed(batch, qualities):
-    """JPEG at each picture's own quality (None leaves it as it is)."""
-    out = batch.clone()
-    for i, quality in enumerate(qualities):
-        if quality is not None:
-            pixels = (batch[i].clamp(0, 1) * 255).round().byte().permute(1, 2, 0).contiguous().numpy()
-            file = io.BytesIO()
-            Image.fromarray(pixels).save(file, "JPEG", quality=quality, subsampling=0 if quality > 85 else 2)
-            read = torch.from_numpy(numpy.array(Image.open(file)))
-            out[i] = read.permute(2, 0, 1).float() / 255
-    return out
-
-
-def shrunk(random, batch, scale):
+def shrunk(draws, batch, scale):
     """A batch reduced by 2 or 4 with a kernel drawn for the batch: mostly bicubic, else by area or soft."""
     size = (batch.shape[2] // scale, batch.shape[3] // scale)
-    kind = random.random()
+    kind = draws.fraction()
     if kind < 0.8:
         return F.interpolate(batch, size=size, mode="bicubic", antialias=True, align_corners=False)
     if kind < 0.9:
         return F.interpolate(batch, size=size, mode="area")
-    kernel = gaussian_kernel(scale * random.uniform(0.35, 0.6))
-    smooth = blurred(batch, [kernel] * len(batch))
-    return F.interpolate(smooth, size=size, mode="bilinear", antialias=False, align_corners=False)
+    sigma = draws.uniform(len(batch), scale * 0.35, scale * 0.6)
+    return F.interpolate(blurred(batch, gaussian_kernels(sigma)), size=size, mode="bilinear", align_corners=False)
 
 
 def stored(batch):
     """What an 8-bit file keeps."""
     return (batch.clamp(0, 1) * 255).round() / 255
+
+
+def half_turn(draws, count):
+    return draws.uniform(count, 0, math.pi)
