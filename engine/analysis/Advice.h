@@ -8,7 +8,7 @@ namespace Analysis {
 
 /// What was measured, in the units of the thresholds, and the levels it amounts to.
 struct Findings {
-    double noise = 0; ///< root mean square over the channels, 8-bit scale
+    double noise = 0; ///< white noise that is as bad, 8-bit scale
     double blur = 0;  ///< Gaussian sigma in pixels, or that of the kernel that was found
     BlurKind kind = BlurKind::Unknown;
     Autopilot::Level noiseLevel = Autopilot::Level::None;

@@ -9,20 +9,6 @@ namespace Analysis {
 namespace {
 
 constexpr double CoarseGrain = 0.6; ///< grain of this size, in pixels, survives removal of fine noise
-/// Deviation of the luma of noise that is independent in the channels, as a share of theirs.
-constexpr double LumaShare = 0.669;
-/// Strengths mean the deviation of white noise. Correlated noise puts its power where detail is, is
-/// measured a tenth too low, and takes a little more.
-constexpr double GrainWeight = 0.5;
-constexpr double MostForGrain = 1.5;
-
-/// The white noise, independent in the channels, that takes the same strength to remove.
-double equivalentNoise(const AdviceInput &input) {
-    const double noise = std::max(input.findings.noise, 255 * double(input.statistics.lumaNoise) / LumaShare);
-    const double grain = input.statistics.grainSize;
-    return noise * std::min(MostForGrain, 1 + GrainWeight * grain * grain);
-}
-
 double sliderValue(const StrengthScale::Linear &scale, double noise) {
     return std::max(SmallestStrength, scale.strength(noise / 255));
 }
@@ -83,8 +69,7 @@ Advice adviseNoise(const AdviceInput &input) {
     const int strength = raw ? input.preferences.denoiseRawStrength : input.preferences.denoiseStrength;
     const QStringList &levels = raw ? input.preferences.denoiseRawLevels : input.preferences.denoiseLevels;
     const double found = input.findings.noise;
-    const double noise =
-        strengthFactor(strength) * std::max(equivalentNoise(input), raw ? 0.0 : Thresholds::RestingNoise);
+    const double noise = strengthFactor(strength) * std::max(found, raw ? 0.0 : Thresholds::RestingNoise);
     Advice advice;
     if (raw)
         adviseRaw(input, noise, advice);

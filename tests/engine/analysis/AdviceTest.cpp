@@ -132,8 +132,8 @@ TEST(Advice, EachPreferenceSaysWhatItSays) {
          nullptr},
         {"little of both, noise prevails", 8, 1.5, none, "Sharpen", false, nullptr},
         {"little of both, noise prevails: kept", 8, 1.5, none, "Denoise", true, nullptr},
-        {"little of both, blur prevails", 3.3, 2.2, none, "Denoise", false, nullptr},
-        {"little of both, prefer denoise", 3.3, 2.2, as(&P::conflictResolutionPref, "denoise"), "Sharpen",
+        {"little of both, blur prevails", 3.8, 2.2, none, "Denoise", false, nullptr},
+        {"little of both, prefer denoise", 3.8, 2.2, as(&P::conflictResolutionPref, "denoise"), "Sharpen",
          false, nullptr},
         {"little of both, prefer sharpen", 8, 1.5, as(&P::conflictResolutionPref, "sharpen"), "Denoise",
          false, nullptr},
@@ -255,7 +255,7 @@ TEST(Advice, TheStatusViewReadsTheSameLevels) {
     const auto shownAsNoise = [](double v) { return v > 0.5 ? 4 : v > 0.33 ? 3 : v > 0.09 ? 2 : 1; };
     const auto shownAsBlur = [](double v) { return v > 0.37 ? 3 : v > 0.22 ? 2 : 1; };
     for (const double value :
-         {0.2, 0.9, 1.25, 1.4, 2.5, 2.6, 2.8, 4.0, 12.0, 13.0, 25.0, 26.0, 80.0, 300.0}) {
+         {0.2, 0.9, 1.15, 1.4, 2.5, 2.6, 3.4, 4.0, 12.0, 13.0, 25.0, 26.0, 80.0, 300.0}) {
         const QVariantMap problems = with(value, value).answer().problems;
         const QVariantMap shown = problems[words("ap_params")].toMap();
         const int noise = std::max(1, problems[words("noise_level")].toInt());
