@@ -55,7 +55,7 @@ T.AbstractButton {
 
     onVisualFocusChanged: focusRing()
 
-    background: Rectangle {
+    background: PbBox {
         radius: PebbleStyle.size.mediumRadius
         color: _top.style.background.pick(_top.enabled, _top._lit, _top.selected)
     }

@@ -26,7 +26,7 @@ T.CheckBox {
     Accessible.description: tooltip.text
     onVisualFocusChanged: focusRing()
 
-    indicator: Rectangle {
+    indicator: PbBox {
         x: _top.leftPadding
         y: (_top.height - height) / 2
         width: _top.indicatorSize

@@ -2,7 +2,7 @@ import QtQuick
 import PebbleUI
 
 // The box that a choice stands in. An outline tells of a warning or an error.
-Rectangle {
+PbBox {
     id: _top
 
     required property bool active

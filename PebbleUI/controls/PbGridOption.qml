@@ -44,7 +44,7 @@ T.AbstractButton {
     Keys.onEnterPressed: click()
     onVisualFocusChanged: focusRing()
 
-    background: Rectangle {
+    background: PbBox {
         radius: PebbleStyle.size.smallRadius
         color: _top._style.background.pick(_top.enabled, _top.hovered || _top.down, _top.selected)
         border.width: _top.selected ? PebbleStyle.size.border : 0

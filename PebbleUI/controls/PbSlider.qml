@@ -75,7 +75,7 @@ T.Slider {
         markFaded: !_rules.modified
     }
 
-    handle: Rectangle {
+    handle: PbBox {
         x: _top.leftPadding + _top.visualPosition * (_top.availableWidth - width)
         y: _top.topPadding + (_top.availableHeight - height) / 2
         width: PebbleStyle.size.sliderHandle

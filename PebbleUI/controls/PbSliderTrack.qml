@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import PebbleUI
 
@@ -14,21 +16,29 @@ Item {
     required property bool markVisible
     required property bool markFaded
 
-    Rectangle {
+    PbBox {
         x: _top.trackX
         anchors.verticalCenter: parent.verticalCenter
         width: _top.trackWidth
         height: PebbleStyle.size.sliderTrack
-        radius: height / 2
+        radius: PebbleStyle.size.sliderTrack / 2
         color: PebbleStyle.color.darkGray
-        gradient: _top.gradient
 
-        Rectangle {
+        PbBox {
             visible: _top.gradient === null
             width: _top.filledWidth
-            height: parent.height
-            radius: parent.radius
+            height: PebbleStyle.size.sliderTrack
+            radius: PebbleStyle.size.sliderTrack / 2
             color: _top.active ? PebbleStyle.color.primeBlue : PebbleStyle.color.gray
+        }
+
+        Loader {
+            active: _top.gradient !== null
+            anchors.fill: parent
+            sourceComponent: Rectangle {
+                radius: PebbleStyle.size.sliderTrack / 2
+                gradient: _top.gradient
+            }
         }
     }
 

@@ -24,7 +24,7 @@ T.Switch {
     Accessible.description: tooltip.text
     onVisualFocusChanged: focusRing()
 
-    indicator: Rectangle {
+    indicator: PbBox {
         x: _top.leftPadding
         y: (_top.height - height) / 2
         width: Math.round(_top.indicatorSize * PebbleStyle.size.switchAspect)

@@ -52,7 +52,7 @@ T.TextField {
     }
     Accessible.name: placeholderText
 
-    background: Rectangle {
+    background: PbBox {
         radius: PebbleStyle.size.smallRadius
         color: PebbleStyle.color.darkerGray
         border.width: _top.activeFocus || _top.showError ? PebbleStyle.size.focusRing : PebbleStyle.size.border

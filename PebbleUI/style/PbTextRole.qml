@@ -2,6 +2,8 @@ import QtQuick
 
 // How one kind of text is set: size in points before `PebbleStyle.pointSize`, line height in pixels.
 QtObject {
+    id: _top
+
     required property string family
     required property real size
     required property int weight
@@ -9,15 +11,16 @@ QtObject {
     property bool italic: false
     property real letterSpacing: 0
 
-    // All of it at once: a text that takes this one value is set up once and not five times.
-    readonly property font font: Qt.font({
-        family: family,
-        pointSize: size * _perPoint,
-        weight: weight,
-        italic: italic,
-        letterSpacing: letterSpacing,
-    })
+    // All of it at once: a text that takes this one value is set up once and not five times. Not made by `Qt.font`,
+    // which drops what comes after the point of a size.
+    property font font
 
-    // Points are counted at 72 to the inch on macOS and at 96 elsewhere: the same number would look larger.
-    readonly property real _perPoint: Qt.platform.os === "osx" ? 1 : 0.7
+    font {
+        family: _top.family
+        // Points are counted at 72 to the inch on macOS and at 96 elsewhere: the same number would look larger.
+        pointSize: Qt.platform.os === "osx" ? _top.size : _top.size * 0.7
+        weight: _top.weight
+        italic: _top.italic
+        letterSpacing: _top.letterSpacing
+    }
 }
