@@ -23,10 +23,12 @@ constexpr double LineShare = 0.87, DiscShare = 0.96;
 constexpr double LineGain = 0.012, DiscGain = 0.003;
 /// A Gaussian is when a disc explains it this much worse.
 constexpr double NoDiscShare = 1.25;
+/// A disc has more to fit a smear with than a line has to fit a disc: it may be this much better.
+constexpr double NearlyEqual = 1.1;
 /// Larger ones explain little and fit anything that falls fast.
 constexpr double LongestLine = 20, LargestDisc = 8;
 /// Below, kernels of all kinds look alike.
-constexpr double SmallestTold = 0.5;
+constexpr double SmallestTold = 0.7;
 /// Noise of the luma beyond which it hides all but the coarsest detail.
 constexpr float MostNoise = 12.0f / 255;
 
@@ -59,19 +61,23 @@ public:
     }
 
     Found gaussian() const {
-        Found best;
-        tryOut({BlurKernel::Kind::Gaussian, 0, 0}, best);
+        Found rough;
+        tryOut({BlurKernel::Kind::Gaussian, 0, 0}, rough, true);
         for (double size = SmallestSigma; size <= LargestSigma; size *= 1.3)
-            tryOut({BlurKernel::Kind::Gaussian, size, 0}, best);
+            tryOut({BlurKernel::Kind::Gaussian, size, 0}, rough, true);
+        Found best;
+        tryOut(rough.kernel, best);
         if (best.kernel.size > 0)
             refine(best, {1.14, 1.07, 1.035});
         return best;
     }
 
     Found disc() const {
-        Found best;
+        Found rough;
         for (double size = SmallestRadius; size <= LargestRadius; size *= 1.12)
-            tryOut({BlurKernel::Kind::Disc, size, 0}, best);
+            tryOut({BlurKernel::Kind::Disc, size, 0}, rough, true);
+        Found best;
+        tryOut(rough.kernel, best);
         refine(best, {1.06, 1.03});
         return best;
     }
@@ -119,11 +125,12 @@ BlurShape findBlurShape(const std::vector<Crop> &tiles, float noise, std::stop_t
     const auto beats = [&gaussian](const Found &other, double share, double gain) {
         return other.error < share * gaussian.error && other.error < gaussian.error - gain;
     };
-    if (line.kernel.size <= LongestLine && line.error < disc.error && beats(line, LineShare, LineGain)) {
+    const bool directed = beats(line, LineShare, LineGain);
+    if (directed && line.kernel.size <= LongestLine && line.error < NearlyEqual * disc.error) {
         shape.kind = BlurKind::Motion;
         shape.length = float(line.kernel.size);
         shape.angle = float(line.kernel.angle);
-    } else if (disc.kernel.size <= LargestDisc && beats(disc, DiscShare, DiscGain)) {
+    } else if (!directed && disc.kernel.size <= LargestDisc && beats(disc, DiscShare, DiscGain)) {
         shape.kind = BlurKind::Defocus;
         shape.radius = float(disc.kernel.size);
     } else if (gaussian.kernel.size >= SmallestTold && disc.error > NoDiscShare * gaussian.error) {

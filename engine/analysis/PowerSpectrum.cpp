@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <complex>
+#include <memory>
 #include <numbers>
+#include <utility>
 
 namespace Analysis {
 
@@ -17,11 +18,16 @@ constexpr int Step = 48; ///< blocks overlap by a quarter: the window takes that
 constexpr int LowestContrast = 2;
 constexpr int HighestContrast = 7;
 
-using Complex = std::complex<float>;
-using Block = std::array<Complex, std::size_t(Side) * Side>;
+using Row = std::array<float, Side>;
 
-std::array<float, Side> makeWindow() {
-    std::array<float, Side> window;
+/// Rows of complex numbers, their parts apart so that a row is worked on at once.
+struct Block {
+    std::array<Row, Side> real;
+    std::array<Row, Side> imaginary;
+};
+
+Row makeWindow() {
+    Row window;
     float squares = 0;
     for (std::size_t i = 0; i < Side; ++i) {
         window[i] = float(0.5 - 0.5 * std::cos(2 * std::numbers::pi * (double(i) + 0.5) / Side));
@@ -33,14 +39,17 @@ std::array<float, Side> makeWindow() {
 }
 
 struct Tables {
-    std::array<Complex, Half> turns;
+    std::array<float, Half> cosine;
+    std::array<float, Half> sine;
     std::array<std::size_t, Side> order;
 };
 
 Tables makeTables() {
     Tables tables;
-    for (std::size_t i = 0; i < Half; ++i)
-        tables.turns[i] = std::polar(1.0f, float(-2 * std::numbers::pi * double(i) / Side));
+    for (std::size_t i = 0; i < Half; ++i) {
+        tables.cosine[i] = float(std::cos(2 * std::numbers::pi * double(i) / Side));
+        tables.sine[i] = float(-std::sin(2 * std::numbers::pi * double(i) / Side));
+    }
     for (std::size_t i = 0; i < Side; ++i) {
         tables.order[i] = 0;
         for (std::size_t bit = 1; bit < Side; bit *= 2)
@@ -49,70 +58,90 @@ Tables makeTables() {
     return tables;
 }
 
-/// Fourier transform of Side values that lie `stride` apart.
-void transform(Complex *values, std::size_t stride) {
+/// One step for two rows: their sum, and their difference, the second turned before.
+void combine(Block &block, std::size_t a, std::size_t b, float cosine, float sine) {
+    Row &aReal = block.real[a], &aImaginary = block.imaginary[a];
+    Row &bReal = block.real[b], &bImaginary = block.imaginary[b];
+    for (std::size_t x = 0; x < Side; ++x) {
+        const float real = bReal[x] * cosine - bImaginary[x] * sine;
+        const float imaginary = bReal[x] * sine + bImaginary[x] * cosine;
+        bReal[x] = aReal[x] - real;
+        bImaginary[x] = aImaginary[x] - imaginary;
+        aReal[x] += real;
+        aImaginary[x] += imaginary;
+    }
+}
+
+/// Fourier transform of all columns.
+void transformColumns(Block &block) {
     static const Tables tables = makeTables();
-    std::array<Complex, Side> work;
-    for (std::size_t i = 0; i < Side; ++i)
-        work[tables.order[i]] = values[i * stride];
+    for (std::size_t i = 0; i < Side; ++i) {
+        if (tables.order[i] <= i)
+            continue;
+        std::swap(block.real[i], block.real[tables.order[i]]);
+        std::swap(block.imaginary[i], block.imaginary[tables.order[i]]);
+    }
     for (std::size_t length = 2; length <= Side; length *= 2) {
-        const std::size_t half = length / 2;
         for (std::size_t start = 0; start < Side; start += length) {
-            for (std::size_t k = 0; k < half; ++k) {
-                const Complex turn = tables.turns[k * (Side / length)];
-                const Complex odd = work[start + k + half];
-                const Complex turned(odd.real() * turn.real() - odd.imag() * turn.imag(),
-                                     odd.real() * turn.imag() + odd.imag() * turn.real());
-                work[start + k + half] = work[start + k] - turned;
-                work[start + k] += turned;
+            for (std::size_t k = 0; k < length / 2; ++k) {
+                const std::size_t turn = k * (Side / length);
+                combine(block, start + k, start + k + length / 2, tables.cosine[turn], tables.sine[turn]);
             }
         }
     }
-    for (std::size_t i = 0; i < Side; ++i)
-        values[i * stride] = work[i];
 }
 
-/// The windowed block at (left, top), without its mean, as the real or the imaginary part.
-void fill(Block &block, const Plane &plane, int left, int top, bool imaginary) {
-    static const std::array<float, Side> window = makeWindow();
+void transpose(std::array<Row, Side> &rows) {
+    for (std::size_t y = 0; y < Side; ++y) {
+        for (std::size_t x = 0; x < y; ++x)
+            std::swap(rows[y][x], rows[x][y]);
+    }
+}
+
+/// The windowed part at (left, top), without its mean.
+void fill(std::array<Row, Side> &rows, const Plane &plane, int left, int top) {
+    static const Row window = makeWindow();
     float sum = 0;
     float weights = 0;
-    for (int y = 0; y < Side; ++y) {
-        const float *row = plane.row(top + y) + left;
-        for (int x = 0; x < Side; ++x) {
-            const float weight = window[std::size_t(y)] * window[std::size_t(x)];
-            sum += weight * row[x];
+    for (std::size_t y = 0; y < Side; ++y) {
+        const float *source = plane.row(top + int(y)) + left;
+        for (std::size_t x = 0; x < Side; ++x) {
+            const float weight = window[y] * window[x];
+            rows[y][x] = weight;
+            sum += weight * source[x];
             weights += weight;
         }
     }
     const float mean = sum / weights;
-    for (int y = 0; y < Side; ++y) {
-        const float *row = plane.row(top + y) + left;
-        for (int x = 0; x < Side; ++x) {
-            const float value = window[std::size_t(y)] * window[std::size_t(x)] * (row[x] - mean);
-            Complex &target = block[std::size_t(y * Side + x)];
-            target = imaginary ? Complex(target.real(), value) : Complex(value, 0);
-        }
+    for (std::size_t y = 0; y < Side; ++y) {
+        const float *source = plane.row(top + int(y)) + left;
+        for (std::size_t x = 0; x < Side; ++x)
+            rows[y][x] *= source[x] - mean;
     }
 }
 
 using Power = std::vector<float>;
 
-/// The power of the real and of the imaginary part of what was transformed.
+/// The power of the real and of the imaginary part, which are two pictures.
 std::array<Power, 2> powersOf(Block &block) {
-    for (std::size_t y = 0; y < Side; ++y)
-        transform(&block[y * Side], 1);
-    for (std::size_t x = 0; x < Side; ++x)
-        transform(&block[x], Side);
+    transformColumns(block);
+    transpose(block.real);
+    transpose(block.imaginary);
+    transformColumns(block);
+    // Transposed as it is: the rows are the frequencies across.
     std::array<Power, 2> powers;
     for (Power &power : powers)
         power.resize(std::size_t(Side) * (Half + 1));
-    for (std::size_t v = 0; v < Side; ++v) {
-        for (std::size_t u = 0; u <= Half; ++u) {
-            const Complex here = block[v * Side + u];
-            const Complex mirrored = std::conj(block[(Side - v) % Side * Side + (Side - u) % Side]);
-            powers[0][v * (Half + 1) + u] = std::norm(here + mirrored) / 4;
-            powers[1][v * (Half + 1) + u] = std::norm(here - mirrored) / 4;
+    for (std::size_t u = 0; u <= Half; ++u) {
+        const std::size_t opposite = (Side - u) % Side;
+        for (std::size_t v = 0; v < Side; ++v) {
+            const std::size_t below = (Side - v) % Side;
+            const float real = block.real[u][v], mirroredReal = block.real[opposite][below];
+            const float imaginary = block.imaginary[u][v], mirrored = block.imaginary[opposite][below];
+            const float evenReal = real + mirroredReal, evenImaginary = imaginary - mirrored;
+            const float oddReal = real - mirroredReal, oddImaginary = imaginary + mirrored;
+            powers[0][v * (Half + 1) + u] = (evenReal * evenReal + evenImaginary * evenImaginary) / 4;
+            powers[1][v * (Half + 1) + u] = (oddReal * oddReal + oddImaginary * oddImaginary) / 4;
         }
     }
     return powers;
@@ -137,27 +166,30 @@ double contrastOf(const Power &power) {
 
 PowerSpectrum measureSpectrum(const std::vector<Crop> &tiles, std::stop_token stop) {
     std::vector<Power> powers;
-    Block block;
+    auto block = std::make_unique<Block>();
     for (const Crop &tile : tiles) {
         if (stop.stop_requested())
             return {};
         bool second = false;
         for (int y = 0; y + Side <= tile.luma.height; y += Step) {
             for (int x = 0; x + Side <= tile.luma.width; x += Step) {
-                fill(block, tile.luma, x, y, second);
+                fill(second ? block->imaginary : block->real, tile.luma, x, y);
                 if (second) {
-                    for (Power &power : powersOf(block))
+                    for (Power &power : powersOf(*block))
                         powers.push_back(std::move(power));
                 }
                 second = !second;
             }
         }
-        if (second)
-            powers.push_back(std::move(powersOf(block)[0]));
+        if (second) {
+            for (Row &row : block->imaginary)
+                row.fill(0);
+            powers.push_back(std::move(powersOf(*block)[0]));
+        }
     }
-    PowerSpectrum spectrum;
     if (powers.empty())
-        return spectrum;
+        return {};
+    PowerSpectrum spectrum;
     std::vector<double> contrasts;
     for (const Power &power : powers)
         contrasts.push_back(contrastOf(power));

@@ -18,6 +18,11 @@ constexpr double ShareIfUnsure = 0.85;
 /// The sizes of discs are known to a twentieth.
 constexpr double ShareOfDefocus = 0.97;
 
+/// Smears a little longer than the model knows are taken back as far as it goes. Of longer ones it would
+/// make something else: edges alone are helped, as a short smear's.
+constexpr double LongestSmear = 1.2 * StrengthScale::sharpenMotion.maximum;
+constexpr double ShortSmear = 3;
+
 /// A sharpening type as the preferences and the sliders know it.
 struct Type {
     QString name;
@@ -36,7 +41,9 @@ double sliderValue(const StrengthScale::Linear &scale, double width) {
 std::array<Type, 5> typesFor(const AdviceInput &input, double blur, double factor) {
     const ImageStatistics &s = input.statistics;
     const double radius = s.defocusRadius > 0 ? factor * ShareOfDefocus * double(s.defocusRadius) : 2 * blur;
-    const double smear = s.motionLength > 0 ? factor * double(s.motionLength) : blur * std::sqrt(12.0);
+    const double length = s.motionLength;
+    const double smear =
+        length > 0 ? factor * (length > LongestSmear ? ShortSmear : length) : blur * std::sqrt(12.0);
     const double standard = sliderValue(StrengthScale::sharpenStandard, blur);
     return {{{QStringLiteral("standard"), QStringLiteral("Sharpen Standard v2"), false, QStringLiteral("std"),
               standard},

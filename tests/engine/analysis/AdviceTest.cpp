@@ -226,6 +226,9 @@ TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
     EXPECT_TRUE(smeared.enabled("Sharpen"));
     EXPECT_NEAR(smeared.number("Sharpen", "param2"), StrengthScale::sharpenMotion.strength(6), 0.01);
     EXPECT_FALSE(smeared.entry("Sharpen").value(words("isLens")).toBool());
+    // The model would make something else of a smear that is longer than any it knows.
+    smeared.statistics.motionLength = 15;
+    EXPECT_LT(smeared.number("Sharpen", "param2"), StrengthScale::sharpenMotion.strength(5));
     Case defocused = with(0.5, 0.8);
     defocused.statistics.blurKind = BlurKind::Defocus;
     defocused.statistics.defocusRadius = 5;
