@@ -30,7 +30,7 @@ public:
     TRect outputRegion(const TRect &input) const override;
     double scale() const override { return m_scale; }
     bool makesAlpha() const override { return true; }
-    double cost() const override { return 2 + 20 / (m_scale * m_scale); }
+    double cost() const override { return 2 + (m_pass ? 11 * m_pass->effort() : 0) / (m_scale * m_scale); }
     int tileSide() const override {
         const int side = m_pass ? m_pass->tileSide() : Stage::tileSide();
         return networkLeads() ? std::clamp(int(side * m_scale), 96, 2048) : side;

@@ -19,7 +19,7 @@ public:
         return m_pass.inputArea(Region::grown(output, std::max(m_detail.halo(), m_limit.halo())));
     }
     int tileSide() const override { return m_pass.tileSide(); }
-    double cost() const override { return 4; }
+    double cost() const override { return 4 * m_pass.effort(); }
     QString run(const FloatTile &in, FloatTile &out, Scratch &scratch,
                 const std::stop_token &stop) const override {
         FloatTile result = out;

@@ -24,6 +24,10 @@ inline constexpr Linear denoiseExtreme{100.0 / 255}; ///< "Severe Noise"
 /// RAW, the same on developed data.
 inline constexpr Linear rawNative{40.0 / 255};   ///< "RAW Native", "Linear RAW"
 inline constexpr Linear rawStandard{75.0 / 255}; ///< "RAW Standard"
+/// Colour filters and matrices leave developed noise stronger in its colours than white noise of the same
+/// brightness: its root mean square over the channels, which these networks are told, is larger by this.
+inline constexpr double sensorNative = 1.25;
+inline constexpr double sensorStandard = 1.2; ///< as far as the network has learned
 
 /// Sharpen, width of the blur that is taken back: the standard deviation of a Gaussian, the radius
 /// of a defocus disk, the length of a straight motion.

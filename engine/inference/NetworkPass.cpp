@@ -2,9 +2,14 @@
 
 #include "engine/kernels/Resampler.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
+
 namespace {
 
-constexpr int EnlargingHalo = 3; ///< of the cubic kernel, in pixels of the input
+constexpr double SmallestFile = 366'000; ///< bytes
+constexpr int EnlargingHalo = 3;         ///< of the cubic kernel, in pixels of the input
 
 /// Below this largest condition a restoration fades out: a network that is told of no damage still
 /// changes a picture a little, and a slider at its least must not.
@@ -23,6 +28,7 @@ NetworkPass::NetworkPass(const NetworkDefinition &definition, std::shared_ptr<co
     : m_scale(definition.scale)
     , m_halo(definition.scale > 1 ? std::max(definition.halo, EnlargingHalo) : definition.halo)
     , m_tile(definition.tile)
+    , m_effort(std::max(0.1, double(QFileInfo(definition.path).size()) / SmallestFile))
     , m_share(shareOf(definition, conditions))
     , m_network(std::move(network))
     , m_conditions(std::move(conditions)) {

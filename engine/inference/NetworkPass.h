@@ -12,6 +12,9 @@ public:
     int scale() const { return m_scale; }
     /// Side of a good tile, pixels of the input.
     int tileSide() const { return m_tile; }
+    /// What a pixel costs, 1 for the smallest network shipped: nearly all of a file are weights, and each is
+    /// used for every fourth pixel.
+    double effort() const { return m_effort; }
 
     /// The pixels of the input that an area of the result needs.
     TRect inputArea(const TRect &output) const;
@@ -25,6 +28,7 @@ private:
     int m_scale;
     int m_halo;
     int m_tile;
+    double m_effort;
     float m_share; ///< of the network's change that counts
     std::shared_ptr<const Network> m_network;
     std::vector<float> m_conditions;

@@ -8,6 +8,7 @@ import torch
 
 from networks import Network
 from photographs import CACHE, ROOM
+from shorten import SUFFIX
 
 FOLDER = CACHE / "checkpoints"
 
@@ -25,11 +26,10 @@ def save(name, network, weights, **state):
 
 def _exported(name):
     """What an exported file holds, so that training goes on from the repository on another machine."""
-    found = [ROOM / "weights" / f"{name}.onnx", *(ROOM.parent.parent / "data" / "models").glob(f"*/{name}.onnx")]
-    file = next((file for file in found if file.exists()), None)
+    file = next((ROOM.parent.parent / "data" / "models").glob(f"*/{name}.onnx"), None)
     if file is None:
         raise SystemExit(f"{name} has neither a checkpoint nor an exported file: train it first")
-    tensors = {t.name: torch.from_numpy(onnx.numpy_helper.to_array(t).astype("float32")) for t in onnx.load(file).graph.initializer}
+    tensors = {t.name.removesuffix(SUFFIX): torch.from_numpy(onnx.numpy_helper.to_array(t).astype("float32")) for t in onnx.load(file).graph.initializer}
     weights = {name: value for name, value in tensors.items() if name.endswith((".weight", ".bias"))}
     channels, inputs = weights["head.weight"].shape[:2]
     blocks = sum(key.endswith("first.weight") for key in weights)

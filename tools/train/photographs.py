@@ -96,8 +96,13 @@ def pool(name, side=288, limit=120):
     return torch.from_numpy(numpy.load(kept)).permute(0, 3, 1, 2)
 
 
-def validation(side=384):
-    """One detailed square of each validation photograph, halved in size: shape (count, side, side, 3)."""
+def validation(source="photographs", side=384):
+    """One detailed square of each validation photograph, halved in size, or drawings that training doesn't draw: shape
+    (count, side, side, 3)."""
+    if source == "drawings":
+        import drawings
+
+        return drawings.drawings(32, side, seed=1001)
     squares = []
     for path in files("validate"):
         pixels = scaled(path, 0.5)
