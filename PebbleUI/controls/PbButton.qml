@@ -47,8 +47,8 @@ T.AbstractButton {
     hoverEnabled: true
 
     Accessible.role: Accessible.Button
-    Accessible.name: text !== "" ? text : tooltip.text
-    Accessible.description: tooltip.text
+    Accessible.name: text !== "" ? text : _tip.text
+    Accessible.description: _tip.text
     Accessible.checked: selected
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()

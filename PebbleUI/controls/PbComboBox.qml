@@ -51,7 +51,7 @@ T.ComboBox {
     spacing: PebbleStyle.size.spacingSmall
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
-    Accessible.name: tooltip.text
+    Accessible.name: _tip.text
     Accessible.description: displayText
 
     Keys.onPressed: event => {

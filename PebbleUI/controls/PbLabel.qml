@@ -28,7 +28,7 @@ T.Label {
     renderType: Text.NativeRendering
     Accessible.role: Accessible.StaticText
     Accessible.name: text
-    Accessible.description: tooltip.text
+    Accessible.description: _tip.text
 
     PbHoverTip {
         id: _tip

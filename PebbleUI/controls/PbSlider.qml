@@ -44,7 +44,7 @@ T.Slider {
     implicitWidth: PebbleStyle.size.sliderWidth
     implicitHeight: PebbleStyle.size.icon
 
-    Accessible.name: tooltip.text
+    Accessible.name: _tip.text
     Accessible.onIncreaseAction: _private.stepBy(1)
     Accessible.onDecreaseAction: _private.stepBy(-1)
     Component.onCompleted: {

@@ -21,7 +21,7 @@ T.Switch {
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(implicitContentHeight, indicatorSize) + topPadding + bottomPadding
     Accessible.name: text
-    Accessible.description: tooltip.text
+    Accessible.description: _tip.text
     onVisualFocusChanged: focusRing()
 
     indicator: PbBox {

@@ -45,11 +45,7 @@ T.TextField {
     placeholderTextColor: PebbleStyle.color.lightGray
     selectionColor: PebbleStyle.color.primeBlue
     selectedTextColor: PebbleStyle.color.alwaysDark
-    font {
-        family: PebbleStyle.font.family
-        pointSize: PebbleStyle.pointSize(PebbleStyle.font.body.size)
-        weight: PebbleStyle.font.body.weight
-    }
+    font: PebbleStyle.font.body.font
     Accessible.name: placeholderText
 
     background: PbBox {
@@ -99,14 +95,17 @@ T.TextField {
         }
     }
 
-    PbText {
+    Loader {
         x: _top.leftPadding
-        width: _top.width - _top.leftPadding - _top.rightPadding
-        height: _top.height
-        visible: _top.length === 0 && _top.preeditText === ""
-        text: _top.placeholderText
-        color: _top.placeholderTextColor
-        horizontalAlignment: _top.horizontalAlignment
+        active: _top.length === 0 && _top.placeholderText !== ""
+        sourceComponent: PbText {
+            width: _top.width - _top.leftPadding - _top.rightPadding
+            height: _top.height
+            visible: _top.preeditText === ""
+            text: _top.placeholderText
+            color: _top.placeholderTextColor
+            horizontalAlignment: _top.horizontalAlignment
+        }
     }
 
     IntValidator {

@@ -27,6 +27,14 @@ qreal radiusOf(const PbBoxShape &shape) {
 
 } // namespace
 
+PbBoxMesh::Ink::Ink(const QColor &color) {
+    const QRgb rgb = qPremultiply(color.rgba());
+    red = uchar(qRed(rgb));
+    green = uchar(qGreen(rgb));
+    blue = uchar(qBlue(rgb));
+    alpha = uchar(qAlpha(rgb));
+}
+
 PbBoxMesh PbBoxMesh::inside(const PbBoxShape &shape) {
     PbBoxMesh mesh;
     const qreal width = shape.size.width();
@@ -49,21 +57,21 @@ PbBoxMesh PbBoxMesh::edge(const PbBoxShape &shape, Edge edge) {
     const qreal bottom = shape.size.height() - radius;
     switch (edge) {
     case Edge::Top:
-        mesh.addCorner({radius, radius}, M_PI, shape, lines);
-        mesh.addCorner({right, radius}, -M_PI_2, shape, lines);
+        mesh.addCorner({radius, radius}, 2, shape, lines);
+        mesh.addCorner({right, radius}, 3, shape, lines);
         break;
     case Edge::Bottom:
         mesh.addCorner({right, bottom}, 0, shape, lines);
-        mesh.addCorner({radius, bottom}, M_PI_2, shape, lines);
+        mesh.addCorner({radius, bottom}, 1, shape, lines);
         break;
     case Edge::Right:
     case Edge::Left: {
         if (bottom <= radius)
             break;
         const qreal x = edge == Edge::Right ? right : radius;
-        const qreal angle = edge == Edge::Right ? 0 : M_PI;
-        mesh.addStop({x, radius}, angle, radius, lines);
-        mesh.addStop({x, bottom}, angle, radius, lines);
+        const QPointF outwards(edge == Edge::Right ? 1 : -1, 0);
+        mesh.addStop({x, radius}, outwards, radius, lines);
+        mesh.addStop({x, bottom}, outwards, radius, lines);
         mesh.joinLastStops(lines);
         break;
     }
@@ -80,11 +88,11 @@ PbBoxMesh::Lines PbBoxMesh::linesOf(const PbBoxShape &shape) {
     if (outer.alpha() == 0)
         return lines;
     if (border > 0)
-        lines.append({border + half, shape.fill});
+        lines.append({border + half, Ink(shape.fill)});
     if (border > shape.pixel)
-        lines.append({border - half, shape.border});
-    lines.append({half, outer});
-    lines.append({-half, Qt::transparent});
+        lines.append({border - half, Ink(shape.border)});
+    lines.append({half, Ink(outer)});
+    lines.append({-half, Ink(Qt::transparent)});
     return lines;
 }
 
@@ -98,23 +106,25 @@ void PbBoxMesh::addQuad(qreal left, qreal top, qreal right, qreal bottom, const 
     if (right <= left || bottom <= top || color.alpha() == 0)
         return;
     const int first = int(m_points.size());
-    addPoint({left, top}, color);
-    addPoint({right, top}, color);
-    addPoint({left, bottom}, color);
-    addPoint({right, bottom}, color);
+    const Ink ink(color);
+    for (const QPointF corner :
+         {QPointF(left, top), QPointF(right, top), QPointF(left, bottom), QPointF(right, bottom)})
+        addPoint(corner, ink);
     addTriangle(first, first + 1, first + 2);
     addTriangle(first + 1, first + 3, first + 2);
 }
 
-void PbBoxMesh::addCorner(QPointF middle, qreal firstAngle, const PbBoxShape &shape, const Lines &lines) {
+// Quarters are counted clockwise from the right bottom one.
+void PbBoxMesh::addCorner(QPointF middle, int quarter, const PbBoxShape &shape, const Lines &lines) {
     const qreal radius = radiusOf(shape);
     const int segments = segmentsOf(shape);
     const bool filled = shape.fill.alpha() > 0;
     const int centre = int(m_points.size());
     if (filled)
-        addPoint(middle, shape.fill);
+        addPoint(middle, Ink(shape.fill));
     for (int i = 0; i <= segments; ++i) {
-        addStop(middle, firstAngle + M_PI_2 * i / segments, radius, lines);
+        const qreal angle = M_PI_2 * (quarter + qreal(i) / segments);
+        addStop(middle, {std::cos(angle), std::sin(angle)}, radius, lines);
         joinLastStops(lines);
         if (filled && i > 0)
             addTriangle(centre, m_stopBefore, m_lastStop);
@@ -122,13 +132,11 @@ void PbBoxMesh::addCorner(QPointF middle, qreal firstAngle, const PbBoxShape &sh
 }
 
 // The lines' points at one place of the edge.
-void PbBoxMesh::addStop(QPointF middle, qreal angle, qreal radius, const Lines &lines) {
+void PbBoxMesh::addStop(QPointF middle, QPointF outwards, qreal radius, const Lines &lines) {
     m_stopBefore = m_lastStop;
     m_lastStop = int(m_points.size());
-    for (const Line &line : lines) {
-        const qreal reach = std::max(radius - line.depth, 0.0);
-        addPoint(middle + QPointF(std::cos(angle), std::sin(angle)) * reach, line.color);
-    }
+    for (const Line &line : lines)
+        addPoint(middle + outwards * std::max(radius - line.depth, 0.0), line.ink);
 }
 
 void PbBoxMesh::joinLastStops(const Lines &lines) {
@@ -140,13 +148,9 @@ void PbBoxMesh::joinLastStops(const Lines &lines) {
     }
 }
 
-void PbBoxMesh::addPoint(QPointF point, const QColor &color) {
-    // As the scene graph wants it: multiplied by the alpha.
-    const float alpha = color.alphaF();
-    const auto part = [alpha](float value) { return uchar(std::lround(value * alpha * 255)); };
+void PbBoxMesh::addPoint(QPointF point, const Ink &ink) {
     QSGGeometry::ColoredPoint2D colored;
-    colored.set(float(point.x()), float(point.y()), part(color.redF()), part(color.greenF()),
-                part(color.blueF()), uchar(color.alpha()));
+    colored.set(float(point.x()), float(point.y()), ink.red, ink.green, ink.blue, ink.alpha);
     m_points.append(colored);
 }
 

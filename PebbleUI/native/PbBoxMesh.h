@@ -31,20 +31,28 @@ public:
     void copyTo(QSGGeometry &geometry) const;
 
 private:
+    // A colour as the scene graph wants it: multiplied by its alpha.
+    struct Ink {
+        explicit Ink(const QColor &color);
+        uchar red;
+        uchar green;
+        uchar blue;
+        uchar alpha;
+    };
     // A line along the edge, so far from it inwards.
     struct Line {
         qreal depth;
-        QColor color;
+        Ink ink;
     };
     using Lines = QVarLengthArray<Line, 4>;
 
     static Lines linesOf(const PbBoxShape &shape);
     static int segmentsOf(const PbBoxShape &shape);
     void addQuad(qreal left, qreal top, qreal right, qreal bottom, const QColor &color);
-    void addCorner(QPointF middle, qreal firstAngle, const PbBoxShape &shape, const Lines &lines);
-    void addStop(QPointF middle, qreal angle, qreal radius, const Lines &lines);
+    void addCorner(QPointF middle, int quarter, const PbBoxShape &shape, const Lines &lines);
+    void addStop(QPointF middle, QPointF outwards, qreal radius, const Lines &lines);
     void joinLastStops(const Lines &lines);
-    void addPoint(QPointF point, const QColor &color);
+    void addPoint(QPointF point, const Ink &ink);
     void addTriangle(int a, int b, int c);
 
     QVarLengthArray<QSGGeometry::ColoredPoint2D, 96> m_points;

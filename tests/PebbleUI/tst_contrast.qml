@@ -2,9 +2,8 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-// Text against what it stands on, at 4.5 to 1 or better, in both themes; disabled text aside. Known to
-// miss it: in the dark theme, the error role on a panel (4.30; it passes on the page), which is why fields
-// show errors by their border. Links in the light theme are told by their line: the blue misses it there.
+// Text against what it stands on, at 4.5 to 1 or better, and borders that tell something at 3 to 1, in both
+// themes; disabled text aside. No text stands in a role that misses it: see PebbleUI/docs/contrast.md.
 TestCase {
     id: _top
     name: "Contrast"
@@ -29,7 +28,8 @@ TestCase {
         const rows = [];
         for (const dark of [true, false])
             for (const [text, on] of [["textLight", "pageBkg"], ["textLight", "panelBkg"], ["textLight", "darkerGray"],
-                                      ["lightGray", "darkerGray"], ["textLight", "noteBkg"], ["alwaysDark", "primeBlue"],
+                                      ["lightGray", "darkerGray"], ["lightGray", "panelBkg"],
+                                      ["lighterGray", "darkestGray"], ["textLight", "noteBkg"], ["alwaysDark", "primeBlue"],
                                       ["textWarning", "panelBkg"], ["textError", "pageBkg"], ["title", "panelBkg"]])
                 rows.push({ tag: `${text} on ${on}, ${dark ? "dark" : "light"}`, dark: dark, text: text, on: on });
         return rows;
@@ -54,6 +54,16 @@ TestCase {
         PebbleStyle.darkMode = row.dark;
         const ratio = contrast(PebbleStyle.color[row.text], PebbleStyle.color[row.on]);
         verify(ratio >= least, ratio.toFixed(2));
+    }
+
+    function test_error_border_data(): var {
+        return test_link_data();
+    }
+
+    // Fields tell of an error by their border, which is drawn twice as wide then.
+    function test_error_border(row: var): void {
+        PebbleStyle.darkMode = row.dark;
+        verify(contrast(PebbleStyle.color.primeRed, PebbleStyle.color.panelBkg) >= 3);
     }
 
     function test_buttons_data(): var {

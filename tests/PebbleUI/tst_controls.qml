@@ -25,6 +25,17 @@ TestCase {
         PbInfoTipBox { id: _note; width: 120; text: "A note of a few words that needs more than one line" }
     }
 
+    PbBox {
+        id: _box
+        x: 320
+        width: 40
+        height: 30
+        radius: 8
+        color: "#ff0000"
+        border.width: 2
+        border.color: "#0000ff"
+    }
+
     Flickable {
         id: _area
         x: 200
@@ -68,6 +79,20 @@ TestCase {
         verify(_label.hovered);
         mouseMove(_top, 399, 299);
         verify(!_label.hovered);
+    }
+
+    function test_box_is_drawn_again_when_it_changes(): void {
+        const seen = (x, y) => String(grabImage(_box).pixel(x, y));
+        compare(seen(20, 15), "#ff0000");
+        compare(seen(20, 1), "#0000ff");
+        compare(seen(0, 15), "#0000ff");
+        verify(seen(0, 0) !== "#0000ff");
+        _box.color = "#00ff00";
+        compare(seen(20, 15), "#00ff00");
+        _box.border.width = 0;
+        compare(seen(20, 0), "#00ff00");
+        _box.radius = 0;
+        compare(seen(0, 0), "#00ff00");
     }
 
     function test_note_grows_with_its_text(): void {

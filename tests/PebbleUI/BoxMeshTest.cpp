@@ -1,0 +1,90 @@
+#include "PbBoxMesh.h"
+
+#include <QSGGeometry>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+#include <ostream>
+
+namespace {
+
+struct Row {
+    const char *name;
+    PbBoxShape shape;
+    double covered; // in square pixels
+};
+
+std::ostream &operator<<(std::ostream &out, const Row &row) {
+    return out << row.name;
+}
+
+double roundArea(double width, double height, double radius) {
+    return width * height - (4 - std::numbers::pi) * radius * radius;
+}
+
+class Covered {
+public:
+    void add(const PbBoxMesh &mesh, const PbBoxShape &shape) {
+        QSGGeometry geometry(QSGGeometry::defaultAttributes_ColoredPoint2D(), 0);
+        mesh.copyTo(geometry);
+        const auto *points = geometry.vertexDataAsColoredPoint2D();
+        const auto *indices = geometry.indexDataAsUShort();
+        for (int i = 0; i < geometry.indexCount(); i += 3) {
+            const auto &a = points[indices[i]];
+            const auto &b = points[indices[i + 1]];
+            const auto &c = points[indices[i + 2]];
+            const double size = std::abs((b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y)) / 2.0;
+            m_area += size * (a.a + b.a + c.a) / 3.0 / 255.0;
+        }
+        const float out = float(shape.pixel / 2) + 0.001F;
+        for (int i = 0; i < geometry.vertexCount(); ++i)
+            m_stays = m_stays && points[i].x >= -out && points[i].y >= -out &&
+                      points[i].x <= float(shape.size.width()) + out &&
+                      points[i].y <= float(shape.size.height()) + out;
+    }
+
+    double area() const { return m_area; }
+    bool stays() const { return m_stays; }
+
+private:
+    double m_area = 0;
+    bool m_stays = true;
+};
+
+class BoxMesh : public testing::TestWithParam<Row> {};
+
+} // namespace
+
+// An overlap or a gap between the parts would show in the sum of what they cover.
+TEST_P(BoxMesh, PartsCoverTheBoxOnce) {
+    const PbBoxShape &shape = GetParam().shape;
+    Covered covered;
+    covered.add(PbBoxMesh::inside(shape), shape);
+    using Edge = PbBoxMesh::Edge;
+    for (const Edge edge : {Edge::Top, Edge::Right, Edge::Bottom, Edge::Left})
+        covered.add(PbBoxMesh::edge(shape, edge), shape);
+    EXPECT_NEAR(covered.area(), GetParam().covered, 0.01 * GetParam().covered + 0.5);
+    EXPECT_TRUE(covered.stays());
+}
+
+const QColor red(Qt::red);
+const QColor blue(Qt::blue);
+const QColor none(Qt::transparent);
+
+INSTANTIATE_TEST_SUITE_P(
+    Shapes, BoxMesh,
+    testing::Values(
+        Row{"Plain", {{110, 28}, 6, 0, red, none, 1}, roundArea(110, 28, 6)},
+        Row{"Bordered", {{110, 28}, 4, 1, red, blue, 1}, roundArea(110, 28, 4)},
+        Row{"Outlined", {{110, 28}, 4, 2, red, blue, 1}, roundArea(110, 28, 4)},
+        Row{"ClearBorder", {{110, 28}, 4, 2, red, none, 1}, roundArea(110, 28, 4)},
+        Row{"Frame", {{14, 14}, 4, 1, none, blue, 1}, roundArea(14, 14, 4) - roundArea(12, 12, 3)},
+        Row{"Circle", {{12, 12}, 6, 0, red, none, 1}, roundArea(12, 12, 6)},
+        Row{"Track", {{200, 4}, 2, 0, red, none, 1}, roundArea(200, 4, 2)},
+        Row{"FineScreen", {{110, 28}, 6, 1, red, blue, 0.5}, roundArea(110, 28, 6)},
+        Row{"TooRound", {{40, 20}, 99, 0, red, none, 1}, roundArea(40, 20, 10)},
+        Row{"Square", {{40, 20}, 0, 0, red, none, 1}, 40 * 20},
+        Row{"Unseen", {{40, 20}, 4, 1, none, none, 1}, 0}),
+    [](const testing::TestParamInfo<Row> &row) { return row.param.name; });
