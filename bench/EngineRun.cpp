@@ -11,15 +11,17 @@
 using namespace Qt::StringLiterals;
 
 ImageRef toImage(const cv::Mat &mat) {
-    auto image = std::make_shared<ImageData>(mat.cols, mat.rows, 3, SampleType::UInt8);
-    cv::Mat rgb(mat.rows, mat.cols, CV_8UC3, image->row(0), image->rowBytes());
+    const SampleType type = mat.depth() == CV_16U ? SampleType::UInt16 : SampleType::UInt8;
+    auto image = std::make_shared<ImageData>(mat.cols, mat.rows, 3, type);
+    cv::Mat rgb(mat.rows, mat.cols, mat.type(), image->row(0), image->rowBytes());
     cv::cvtColor(mat, rgb, cv::COLOR_BGR2RGB);
     return image;
 }
 
 cv::Mat toMat(const ImageData &image) {
-    const cv::Mat rgb(image.height(), image.width(), CV_8UC3, const_cast<std::byte *>(image.row(0)),
-                      image.rowBytes());
+    const int depth = image.type() == SampleType::UInt16 ? CV_16U : CV_8U;
+    const cv::Mat rgb(image.height(), image.width(), CV_MAKETYPE(depth, 3),
+                      const_cast<std::byte *>(image.row(0)), image.rowBytes());
     cv::Mat mat;
     cv::cvtColor(rgb, mat, cv::COLOR_RGB2BGR);
     return mat;

@@ -14,7 +14,7 @@ struct Filter {
     QVariantMap params;
 };
 
-/// 8 bit, B G R there and R G B here.
+/// 8 or 16 bit, B G R there and R G B here.
 ImageRef toImage(const cv::Mat &mat);
 cv::Mat toMat(const ImageData &image);
 

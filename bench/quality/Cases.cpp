@@ -1,6 +1,7 @@
 #include "Cases.h"
 
 #include "Damage.h"
+#include "Sensor.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +37,36 @@ void addDenoise(std::vector<Case> &cases) {
     }
 }
 
+void addRaw(std::vector<Case> &cases) {
+    constexpr double Smear = 0.7;
+    struct Model {
+        const char *name;
+        QString model, strength;
+        double sigmaAtFull;
+        File file;
+        std::vector<double> levels;
+    };
+    const Model models[] = {
+        {"RAW Native", u"RAW Native"_s, u"param1_native"_s, 40, File::Mosaic, {8, 20}},
+        {"RAW Standard", u"RAW Standard"_s, u"param1_standard"_s, 75, File::Mosaic, {8, 20, 40}},
+        {"RAW Linear", u"Linear RAW"_s, u"param1_native"_s, 40, File::LinearRaw, {8, 20}}};
+    for (const Model &one : models) {
+        for (const double level : one.levels) {
+            std::vector<Filter> settings;
+            for (const double share : {0.8, 1.2, 1.8})
+                settings.push_back(
+                    {u"RAW"_s, one.model, {{one.strength, std::min(1.0, share * level / one.sigmaAtFull)}}});
+            const double smear = one.file == File::LinearRaw ? Smear : 0;
+            cases.push_back({one.name,
+                             text(smear > 0 ? "sensor, smeared, noise %.0f" : "sensor, noise %.0f", level),
+                             [level, smear](const cv::Mat &clean, int seed) {
+                                 return throughSensor(clean, level, smear, seed);
+                             },
+                             settings, NonLocalMeans, 1, Source::Photographs, one.file});
+        }
+    }
+}
+
 void addSharpen(std::vector<Case> &cases, const char *name, const QString &model, bool lens, double noise,
                 const std::vector<std::pair<std::string, cv::Mat>> &kernels) {
     std::vector<Filter> settings;
@@ -65,16 +96,26 @@ void addEnlarge(std::vector<Case> &cases) {
                                                        {"Upscale High fidelity", u"High Fidelity"_s},
                                                        {"Upscale Graphics", u"CGI"_s},
                                                        {"Upscale Low resolution", u"Low Resolution"_s}};
-    for (const auto &[name, model] : models) {
-        for (const int scale : {2, 4}) {
+    for (const auto &one : models) {
+        const auto &[name, model] = one;
+        const auto add = [&cases, name = one.first, model = one.second](int scale, Source source) {
             const QVariantMap params{
                 {u"scale"_s, scale}, {u"param1"_s, 0.01}, {u"param2"_s, 0.01}, {u"param3"_s, 0.01}};
             const std::vector<Filter> settings{{u"Enhance"_s, model, params}};
             const Reference &reference = scale == 2 ? Bicubic : Lanczos;
-            cases.push_back({name, "reduced by " + std::to_string(scale),
+            const std::string from = source == Source::Drawings ? "drawings " : "";
+            cases.push_back({name, from + "reduced by " + std::to_string(scale),
                              [scale](const cv::Mat &clean, int) { return reduced(clean, scale); }, settings,
-                             reference, scale});
-        }
+                             reference, scale, source});
+        };
+        const bool graphics = model == u"CGI"_s;
+        add(2, Source::Photographs);
+        if (!graphics)
+            add(4, Source::Photographs);
+        if (graphics || model == u"Standard V2"_s)
+            add(2, Source::Drawings);
+        if (graphics)
+            add(4, Source::Drawings);
     }
     const auto settings = [](const QString &model, const QString &slider, int scale) {
         std::vector<Filter> found;
@@ -99,6 +140,7 @@ void addEnlarge(std::vector<Case> &cases) {
 std::vector<Case> allCases() {
     std::vector<Case> cases;
     addDenoise(cases);
+    addRaw(cases);
     const auto line = [](double length) { return lineKernel(length, LineAngle); };
     addSharpen(cases, "Sharpen Standard", u"Sharpen Standard v2"_s, false, 2,
                kernels("Gaussian %.1f", {1.0, 1.3, 1.6}, gaussianKernel));

@@ -7,6 +7,13 @@
 #include <string>
 #include <vector>
 
+/// What a case begins with.
+enum class Source { Photographs, Drawings };
+
+/// What the program would know of a damaged file: whether it is a camera's, and then of colours or of a
+/// mosaic.
+enum class File { Picture, Mosaic, LinearRaw };
+
 /// One line of the page: a model against one damage.
 struct Case {
     std::string model;
@@ -16,6 +23,8 @@ struct Case {
     std::vector<Filter> settings;
     const Reference &reference;
     int scale = 1; ///< above 1 luminance is compared
+    Source source = Source::Photographs;
+    File file = File::Picture;
 };
 
 std::vector<Case> allCases();
