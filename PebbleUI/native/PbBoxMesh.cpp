@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int fewestSegments = 2;
+constexpr int fewestSegments = 3;
 constexpr int mostSegments = 24;
 
 qreal borderOf(const PbBoxShape &shape) {
@@ -96,9 +96,9 @@ PbBoxMesh::Lines PbBoxMesh::linesOf(const PbBoxShape &shape) {
     return lines;
 }
 
-// Chords stay within a sixth of a device pixel of the arc.
+// Chords stay within a tenth of a device pixel of the arc.
 int PbBoxMesh::segmentsOf(const PbBoxShape &shape) {
-    const int wanted = int(std::ceil(1.4 * std::sqrt(radiusOf(shape) / shape.pixel)));
+    const int wanted = int(std::ceil(2 * std::sqrt(radiusOf(shape) / shape.pixel)));
     return std::clamp(wanted, fewestSegments, mostSegments);
 }
 
