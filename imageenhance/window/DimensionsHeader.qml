@@ -12,7 +12,7 @@ Row {
 
     PbLabel {
         text: qsTr("Dimensions")
-        color: PebbleStyle.color.textSecondary
+        color: PebbleStyle.color.lightGray
     }
     PbLabel {
         text: `${_top.outputSize.width} x ${_top.outputSize.height}`

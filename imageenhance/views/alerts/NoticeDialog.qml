@@ -24,7 +24,7 @@ PbDialog {
     PbLabel {
         visible: text !== ""
         text: _top.details
-        color: PebbleStyle.color.textSecondary
+        color: PebbleStyle.color.lightGray
         wrapMode: Text.Wrap
         elide: Text.ElideNone
         verticalAlignment: Text.AlignTop

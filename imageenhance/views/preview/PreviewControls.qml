@@ -42,7 +42,7 @@ Rectangle {
         }
         PbLabel {
             visible: _top._masking
-            color: PebbleStyle.color.textSecondary
+            color: PebbleStyle.color.lightGray
             text: qsTr("Hold space to pan")
         }
         Item {

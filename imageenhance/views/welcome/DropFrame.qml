@@ -44,7 +44,7 @@ AbstractButton {
                 anchors.horizontalCenter: parent.horizontalCenter
                 iconSource: PebbleStyle.icon.images
                 size: 48
-                color: PebbleStyle.color.textSecondary
+                color: PebbleStyle.color.lightGray
             }
             PbLabel {
                 width: parent.width
@@ -56,7 +56,7 @@ AbstractButton {
             }
             PbLabel {
                 anchors.horizontalCenter: parent.horizontalCenter
-                color: PebbleStyle.color.textSecondary
+                color: PebbleStyle.color.lightGray
                 text: qsTr("OR")
             }
             PbButton {

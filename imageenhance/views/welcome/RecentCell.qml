@@ -45,7 +45,7 @@ AbstractButton {
                 visible: _picture.status !== Image.Ready
                 iconSource: PebbleStyle.icon.image
                 size: 24
-                color: PebbleStyle.color.textSecondary
+                color: PebbleStyle.color.lightGray
             }
             Image {
                 id: _picture
