@@ -7,7 +7,10 @@ namespace Analysis {
 
 namespace {
 
-constexpr double FlattestShare = 0.05;
+/// Fewer for the high frequencies, which texture reaches first, than for the middle ones, whose least
+/// power tells.
+constexpr double FlattestShare = 0.02;
+constexpr double FlattestShareMiddle = 0.05;
 constexpr std::size_t FewestBlocks = 48;
 /// Share of the middle band in the variance of noise as its correlation goes from none to that of
 /// heavily compressed or interpolated noise; found by trying (0.51 to 0.58).
@@ -21,16 +24,18 @@ constexpr float MostUnevenWhite = 1.3f;
 constexpr float MostLow = 1.25f;
 constexpr std::size_t BrightnessBands = 6;
 constexpr std::size_t FewestInBand = 200;
-/// Between bands of brightness, noise varies by no more than this; what exceeds it is texture.
-constexpr float MostBandRatio = 1.4f;
-/// The band that the others are held against: this share of the blocks lies in bands with less noise.
-constexpr float LowerShare = 0.25f;
+/// Between bands of brightness, noise varies by no more than this; what exceeds it is texture. White
+/// noise was added to all of them alike; what a camera left follows the light.
+constexpr float MostBandRatio = 1.4f, MostBandRatioWhite = 1.2f;
+/// The band that the others are held against: this share of the blocks lies in bands with less noise. A
+/// small band of sky tells enough of white noise; of correlated noise it may have lost most.
+constexpr float LowerShare = 0.25f, LowerShareWhite = 0.12f;
 
 /// The blocks among `order` in which the key is smallest.
 template <typename Key>
-Indices flattest(Indices order, Key key) {
+Indices flattest(Indices order, double share, Key key) {
     const std::size_t wanted =
-        std::min(order.size(), std::max(FewestBlocks, std::size_t(FlattestShare * double(order.size()))));
+        std::min(order.size(), std::max(FewestBlocks, std::size_t(share * double(order.size()))));
     std::nth_element(
         order.begin(), order.begin() + std::ptrdiff_t(wanted), order.end(),
         [&key](std::size_t a, std::size_t b) { return key(a) < key(b) || (key(a) == key(b) && a < b); });
@@ -71,9 +76,10 @@ struct BandNoise {
     float variance;
     float blocks;
     bool noisy;
+    bool white;
 };
 
-float lowerVariance(std::vector<BandNoise> bands) {
+float lowerVariance(std::vector<BandNoise> bands, float share) {
     std::sort(bands.begin(), bands.end(),
               [](const BandNoise &a, const BandNoise &b) { return a.variance < b.variance; });
     float all = 0;
@@ -82,7 +88,7 @@ float lowerVariance(std::vector<BandNoise> bands) {
     float sum = 0;
     for (const BandNoise &band : bands) {
         sum += band.blocks;
-        if (sum >= LowerShare * all)
+        if (sum >= share * all)
             return band.variance;
     }
     return 0;
@@ -95,10 +101,10 @@ float Variances::total() const {
 }
 
 Variances variancesIn(const Blocks &blocks, const Indices &candidates, std::size_t channel) {
-    const Indices forHigh =
-        flattest(candidates, [&](std::size_t i) { return blocks[i].low() + blocks[i].middle(); });
-    const Indices forMiddle =
-        flattest(candidates, [&](std::size_t i) { return blocks[i].low() + blocks[i].high(); });
+    const Indices forHigh = flattest(candidates, FlattestShare,
+                                     [&](std::size_t i) { return blocks[i].low() + blocks[i].middle(); });
+    const Indices forMiddle = flattest(candidates, FlattestShareMiddle,
+                                       [&](std::size_t i) { return blocks[i].low() + blocks[i].high(); });
     Variances found;
     const std::vector<float> high = energiesOf(blocks, forHigh, channel, 2);
     found.high = meanFromQuantile(high, Median, BlockSpectrum::Counts[2]);
@@ -127,11 +133,14 @@ float averageVariance(const Blocks &blocks, const Indices &candidates, std::size
         if (band.size() < FewestInBand)
             continue;
         const Variances variances = variancesIn(blocks, band, channel);
-        found.push_back({variances.total(), float(band.size()), variances.noisy});
+        found.push_back({variances.total(), float(band.size()), variances.noisy, variances.isWhite()});
     }
     if (std::none_of(found.begin(), found.end(), [](const BandNoise &band) { return band.noisy; }))
         return variancesIn(blocks, candidates, channel).total();
-    const float most = MostBandRatio * lowerVariance(found);
+    const bool white =
+        std::all_of(found.begin(), found.end(), [](const BandNoise &band) { return band.white; });
+    const float most = white ? MostBandRatioWhite * lowerVariance(found, LowerShareWhite)
+                             : MostBandRatio * lowerVariance(found, LowerShare);
     float sum = 0;
     float weights = 0;
     for (const BandNoise &band : found) {

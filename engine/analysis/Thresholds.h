@@ -4,7 +4,7 @@
 /// standard deviation on the 8-bit scale, blur a Gaussian sigma in pixels.
 ///
 /// "Photographs" below are 48 desktop photographs reduced to between a third and three fifths, which
-/// takes compression away: they measure 0 to 3.3 in noise, nine tenths of them 2.1 and less, and 0.05 to
+/// takes compression away: they measure 0 to 3.1 in noise, nine tenths of them 2.1 and less, and 0.05 to
 /// 0.8 in blur. `orvane-bench autopilot` prints these figures and what follows from the thresholds.
 namespace Thresholds {
 
