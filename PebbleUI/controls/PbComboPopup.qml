@@ -14,7 +14,20 @@ T.Popup {
     margins: PebbleStyle.size.popupMargin
     padding: PebbleStyle.size.spacingTiny
 
+    // A click leaves the keyboard where it was. While the list is open its keys are the list's.
+    property Item _keyboardBefore: null
+
     readonly property real _room: (box.Window.window?.height ?? Number.POSITIVE_INFINITY) - 2 * margins
+
+    onAboutToShow: {
+        _keyboardBefore = box.activeFocus ? null : box.Window.activeFocusItem;
+        box.forceActiveFocus(Qt.PopupFocusReason);
+    }
+    onClosed: {
+        if (box.activeFocus)
+            _keyboardBefore?.forceActiveFocus(Qt.PopupFocusReason);
+        _keyboardBefore = null;
+    }
 
     contentItem: ListView {
         id: _list

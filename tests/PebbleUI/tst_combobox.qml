@@ -113,12 +113,32 @@ TestCase {
     function test_choice_by_mouse(): void {
         const box = make(_maker, {});
         mouseClick(box);
-        verify(!box.activeFocus, "a click leaves the keyboard alone");
         tryVerify(() => box.popup.opened);
         mouseClick(rowOf(box, 1));
         tryVerify(() => !box.popup.visible);
         compare(box.currentIndex, 1);
         compare(box.currentValue, "b");
+    }
+
+    function test_keyboard_in_a_list_that_a_click_opened_data(): var {
+        return [
+            { tag: "chosen", keys: [Qt.Key_Down, Qt.Key_Down, Qt.Key_Return], index: 2 },
+            { tag: "left", keys: [Qt.Key_Down, Qt.Key_Escape], index: 0 },
+        ];
+    }
+
+    function test_keyboard_in_a_list_that_a_click_opened(row: var): void {
+        const other = createTemporaryObject(_maker, _top, { y: 100 });
+        other.forceActiveFocus(Qt.TabFocusReason);
+        const box = make(_maker, {});
+        mouseClick(box);
+        tryVerify(() => box.popup.opened);
+        for (const key of row.keys)
+            keyClick(key);
+        tryVerify(() => !box.popup.visible);
+        compare(box.currentIndex, row.index);
+        compare(other.currentIndex, 0);
+        verify(other.activeFocus, "the keyboard is back where it was");
     }
 
     function test_wheel_over_a_closed_box_changes_nothing(): void {
