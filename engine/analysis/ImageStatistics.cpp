@@ -8,20 +8,6 @@
 #include "engine/analysis/Smoothing.h"
 #include "engine/analysis/Tones.h"
 
-namespace {
-
-/// Half as large. Light has no fine detail, and noise, which is grey, would make it look sure.
-Analysis::Crop halfOf(const Analysis::Crop &crop) {
-    using namespace Analysis;
-    Crop half;
-    for (std::size_t c = 0; c < 3; ++c)
-        half.rgb[c] = halved(crop.rgb[c]);
-    half.luma = halved(crop.luma);
-    return half;
-}
-
-} // namespace
-
 ImageStatistics measureImage(const ImageData &image, std::stop_token stop) {
     using namespace Analysis;
     constexpr int SmallSide = 320;
@@ -39,13 +25,15 @@ ImageStatistics measureImage(const ImageData &image, std::stop_token stop) {
         return answer;
     const Crop small = readSmall(image, SmallSide);
     const Tones tones = measureTones(small);
-    const Light light = measureLight(halfOf(halfOf(small)));
+    // Light has no fine detail, and noise, which is grey, would make it look sure.
+    const Light light = measureLight(halved(halved(small)));
 
     answer.width = image.width();
     answer.height = image.height();
     answer.noise = noise.rgb;
     answer.lumaNoise = noise.luma;
     answer.chromaNoise = noise.chroma;
+    answer.chromaBlotches = noise.blotches;
     answer.grainSize = noise.grainSize;
     answer.blur = blur.sigma;
     answer.edgeShare = blur.edgeShare;

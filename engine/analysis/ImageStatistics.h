@@ -25,6 +25,8 @@ struct ImageStatistics {
     std::array<float, 3> noise = {};
     float lumaNoise = 0;   ///< of 0.299 R + 0.587 G + 0.114 B
     float chromaNoise = 0; ///< root mean square of the noise of R - luma and B - luma
+    float chromaBlotches =
+        0; ///< of colour noise in spots of a few pixels, root mean square of R, G and B less the luma
     float grainSize =
         0; ///< sigma of the Gaussian that would give white noise this correlation; 0 for white noise
 

@@ -1,5 +1,6 @@
 #include "engine/analysis/Noise.h"
 
+#include "engine/analysis/ChromaBlotches.h"
 #include "engine/analysis/ClippedNoise.h"
 #include "engine/analysis/NoiseVariance.h"
 
@@ -96,6 +97,7 @@ NoiseLevels measureNoise(const std::vector<Crop> &tiles, std::stop_token stop) {
     levels.luma = std::sqrt(luma.total() * scale);
     levels.chroma =
         std::sqrt((variancesIn(blocks, safe, 4).total() + variancesIn(blocks, safe, 5).total()) / 2 * scale);
+    levels.blotches = measureBlotches(tiles, levels.chroma, stop);
     const float floor = Rounding * Rounding;
     if (luma.middle > WhiteRatio * std::max(luma.high, floor))
         levels.grainSize = std::sqrt(std::log(luma.middle / std::max(luma.high, floor)) / GrainScale);

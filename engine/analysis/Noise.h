@@ -14,6 +14,7 @@ struct NoiseLevels {
     float luma = 0;
     float chroma = 0;
     float grainSize = 0; ///< sigma of a Gaussian that would correlate white noise like this
+    float blotches = 0;  ///< coarse colour noise, which the blocks of the other figures are too small to hold
 };
 
 /// Measures in the flattest 8 x 8 blocks of the tiles, on their cosine transform: blocks are chosen

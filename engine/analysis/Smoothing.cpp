@@ -57,4 +57,12 @@ Plane halved(const Plane &plane) {
     return half;
 }
 
+Crop halved(const Crop &crop) {
+    Crop half;
+    for (std::size_t c = 0; c < 3; ++c)
+        half.rgb[c] = halved(crop.rgb[c]);
+    half.luma = halved(crop.luma);
+    return half;
+}
+
 } // namespace Analysis

@@ -7,6 +7,7 @@ set(ORVANE_ANALYSIS_SOURCES
   analysis/BlurFit.cpp analysis/BlurFit.h
   analysis/BlurKernel.cpp analysis/BlurKernel.h
   analysis/BlurShape.cpp analysis/BlurShape.h
+  analysis/ChromaBlotches.cpp analysis/ChromaBlotches.h
   analysis/ClippedNoise.cpp analysis/ClippedNoise.h
   analysis/Compression.cpp analysis/Compression.h
   analysis/EdgeWidths.cpp analysis/EdgeWidths.h

@@ -10,13 +10,13 @@ namespace {
 constexpr double FullNoiseStrength = 0.25;
 constexpr double MostCondition = 2; ///< networks learn values from 0 to 1, some a little more
 
-/// Noise of colour differences beyond what white noise would have there, which is 1.52 times that of
+/// Noise of colour: in spots, and beyond what white noise would have, which is 1.52 times that of
 /// brightness. The margin keeps an error of the measurement from looking like coloured noise.
-double chromaExcess(const ImageStatistics &statistics) {
+double colourNoise(const ImageStatistics &statistics) {
     constexpr double White = 1.52, Margin = 1.25;
-    const double chroma = double(statistics.chromaNoise),
+    const double chroma = double(statistics.chromaNoise), spots = double(statistics.chromaBlotches),
                  white = White * Margin * double(statistics.lumaNoise);
-    return std::sqrt(std::max(0.0, chroma * chroma - white * white));
+    return std::sqrt(std::max(0.0, chroma * chroma - white * white) + spots * spots);
 }
 
 const NetworkDefinition *pick(const FilterInput &input, double scale) {
@@ -42,7 +42,7 @@ double given(const QString &role, const FilterInput &input, double scale) {
         const double share = input.values.number(QStringLiteral("strength")) / FullNoiseStrength;
         const bool chroma = role == NetworkChoice::ChromaNoise;
         return std::min(1.0, share) *
-               (chroma ? chromaExcess(input.statistics) : double(input.statistics.lumaNoise));
+               (chroma ? colourNoise(input.statistics) : double(input.statistics.lumaNoise));
     }
     return input.values.number(role);
 }

@@ -17,10 +17,10 @@ namespace {
 
 void expectFinite(const ImageStatistics &s) {
     for (const float value :
-         {s.noise[0],      s.noise[1],      s.noise[2],      s.lumaNoise,     s.chromaNoise, s.grainSize,
-          s.blur,          s.softness,      s.defocusRadius, s.motionLength,  s.motionAngle, s.edgeShare,
-          s.blockiness,    s.lumaLow,       s.lumaMedian,    s.lumaHigh,      s.clippedLow,  s.clippedHigh,
-          s.illuminant[0], s.illuminant[1], s.illuminant[2], s.castConfidence})
+         {s.noise[0],    s.noise[1],      s.noise[2],      s.lumaNoise,     s.chromaNoise,   s.chromaBlotches,
+          s.grainSize,   s.blur,          s.softness,      s.defocusRadius, s.motionLength,  s.motionAngle,
+          s.edgeShare,   s.blockiness,    s.lumaLow,       s.lumaMedian,    s.lumaHigh,      s.clippedLow,
+          s.clippedHigh, s.illuminant[0], s.illuminant[1], s.illuminant[2], s.castConfidence})
         EXPECT_TRUE(std::isfinite(value));
     EXPECT_GE(s.jpegQuality, 1);
     EXPECT_LE(s.jpegQuality, 100);

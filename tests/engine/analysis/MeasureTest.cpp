@@ -73,6 +73,27 @@ TEST(Noise, CoarseGrainIsSeen) {
     }
 }
 
+TEST(Noise, SpotsOfColourAreSeen) {
+    struct Row {
+        const char *name;
+        Picture picture;
+        double least, most;
+    };
+    const Row rows[] = {
+        {"none", scene(), 0, 1.5},
+        {"white noise", noisy(scene(), 15), 0, 1.5},
+        {"spots", blotched(scene(), 12, 2), 6, 15},
+        {"spots below noise", noisy(blotched(scene(), 12, 2), 15), 6, 15},
+        {"wide spots below noise", noisy(blotched(scene(), 12, 3.5), 15), 5, 15},
+        {"weak spots", noisy(blotched(scene(), 5, 2), 5), 2.5, 6.5},
+        {"too small to tell", noisy(blotched(flat(60, 60, {0.5f, 0.5f, 0.5f}), 12, 2), 15), 0, 0}};
+    for (const Row &row : rows) {
+        const double found = 255 * double(measured(row.picture).chromaBlotches);
+        EXPECT_GE(found, row.least) << row.name;
+        EXPECT_LE(found, row.most) << row.name;
+    }
+}
+
 TEST(Noise, EdgesAndTextureAreNotNoise) {
     EXPECT_LT(channelNoise(measured(scene())), 1);
 }

@@ -159,6 +159,21 @@ Picture grainy(const Picture &picture, double sigma, double grain) {
     return result;
 }
 
+Picture blotched(const Picture &picture, double sigma, double width) {
+    const Plane &first = picture[0];
+    const Picture noise = grainy(flat(first.width, first.height, {0, 0, 0}), 1, width);
+    Picture result = picture;
+    // What the luma takes away of three independent channels leaves 0.883 of their deviation.
+    for (std::size_t i = 0; i < first.values.size(); ++i) {
+        const float luma = Analysis::LumaWeights[0] * noise[0].values[i] +
+                           Analysis::LumaWeights[1] * noise[1].values[i] +
+                           Analysis::LumaWeights[2] * noise[2].values[i];
+        for (std::size_t c = 0; c < 3; ++c)
+            result[c].values[i] += float(sigma / 0.883) * (noise[c].values[i] - luma);
+    }
+    return result;
+}
+
 Picture tinted(const Picture &picture, const std::array<float, 3> &gains) {
     Picture result = picture;
     for (std::size_t c = 0; c < 3; ++c) {

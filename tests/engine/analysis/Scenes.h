@@ -27,6 +27,8 @@ Picture leaves(int width, int height);
 Picture noisy(const Picture &picture, double sigma);
 /// Noise that is correlated like white noise smoothed by `grain` pixels.
 Picture grainy(const Picture &picture, double sigma, double grain);
+/// Spots of colour some pixels wide, without luma; `sigma` over the three channels together.
+Picture blotched(const Picture &picture, double sigma, double width);
 Picture blurred(const Picture &picture, double sigma);
 /// As by a lens out of focus, every point a disc of this radius.
 Picture defocused(const Picture &picture, double radius);
