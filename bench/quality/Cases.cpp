@@ -53,7 +53,7 @@ void addRaw(std::vector<Case> &cases) {
     for (const Model &one : models) {
         for (const double level : one.levels) {
             std::vector<Filter> settings;
-            for (const double share : {0.8, 1.2, 1.8})
+            for (const double share : {0.7, 1.0, 1.3, 1.8})
                 settings.push_back(
                     {u"RAW"_s, one.model, {{one.strength, std::min(1.0, share * level / one.sigmaAtFull)}}});
             const double smear = one.file == File::LinearRaw ? Smear : 0;
