@@ -27,7 +27,7 @@ inline constexpr Linear rawStandard{75.0 / 255}; ///< "RAW Standard"
 /// Colour filters and matrices leave developed noise stronger in its colours than white noise of the same
 /// brightness: its root mean square over the channels, which these networks are told, is larger by this.
 inline constexpr double sensorNative = 1.25;
-inline constexpr double sensorStandard = 1.2; ///< as far as the network has learned
+inline constexpr double sensorStandard = 1.08; ///< strong noise, part of which black cuts off
 
 /// Sharpen, width of the blur that is taken back: the standard deviation of a Gaussian, the radius
 /// of a defocus disk, the length of a straight motion.
