@@ -36,13 +36,6 @@ void watch(int number) {
     sigaction(number, &action, nullptr);
 }
 
-void unwatch(int number) {
-    struct sigaction action = {};
-    sigaction(number, nullptr, &action);
-    if (action.sa_handler == onSignal)
-        std::signal(number, SIG_DFL);
-}
-
 } // namespace
 
 Interrupt::Interrupt(QObject *parent)
@@ -63,8 +56,8 @@ Interrupt::Interrupt(QObject *parent)
 Interrupt::~Interrupt() {
     if (m_pipe[0] < 0)
         return;
-    for (const int number : watchedSignals)
-        unwatch(number);
+    // The handler stays: a Ctrl-C that comes while the process tidies up would make a failure of
+    // finished work. The one after it ends a process that hangs.
     writeEnd = -1;
     qDeleteAll(findChildren<QSocketNotifier *>());
     for (const int end : m_pipe)
