@@ -18,7 +18,7 @@ PbText {
     Loader {
         id: _icon
         active: String(_top.iconSource) !== ""
-        anchors.verticalCenter: parent.verticalCenter
+        y: (_top.height - height) / 2
         sourceComponent: PbIcon {
             iconSource: _top.iconSource
             size: _top.iconSize

@@ -15,7 +15,8 @@ PbIcon {
 
     Loader {
         active: _top.busy
-        anchors.centerIn: parent
+        x: (_top.width - width) / 2
+        y: (_top.height - height) / 2
         sourceComponent: PbBusySpinner {
             objectName: "spinner"
         }

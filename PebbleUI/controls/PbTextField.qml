@@ -95,17 +95,19 @@ T.TextField {
         }
     }
 
-    Loader {
+    // The toolkit clips what a field draws, and so draws each by itself, which is dear in a panel full of them.
+    PbInk.shown: _private.inUse
+
+    PbText {
+        objectName: "resting"
         x: _top.leftPadding
-        active: _top.length === 0 && _top.placeholderText !== ""
-        sourceComponent: PbText {
-            width: _top.width - _top.leftPadding - _top.rightPadding
-            height: _top.height
-            visible: _top.preeditText === ""
-            text: _top.placeholderText
-            color: _top.placeholderTextColor
-            horizontalAlignment: _top.horizontalAlignment
-        }
+        width: _top.width - _top.leftPadding - _top.rightPadding
+        height: _top.height
+        visible: !_private.inUse || (_private.isEmpty && _top.preeditText === "")
+        text: _private.isEmpty ? _top.placeholderText : _top.displayText
+        color: _private.isEmpty ? _top.placeholderTextColor : _top.color
+        font: _top.font
+        horizontalAlignment: _top.horizontalAlignment
     }
 
     IntValidator {
@@ -135,6 +137,10 @@ T.TextField {
         id: _private
 
         readonly property bool isNumber: _top.type !== PbTextField.Type.Text
+        readonly property bool isEmpty: _top.length === 0
+
+        // While it isn't, a text that can't be scrolled stands in for the editor's, and ends in dots if it is too long.
+        readonly property bool inUse: _top.activeFocus || _top.selectedText !== ""
         property bool selectOnRelease: false
 
         function step(size: real): void {

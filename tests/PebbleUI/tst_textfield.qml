@@ -124,6 +124,42 @@ TestCase {
         compare(field.selectedText, row.selected);
     }
 
+    function test_resting_looks_as_in_use_data(): var {
+        return [
+            { tag: "text", properties: { text: "portrait, Ångström" } },
+            { tag: "number", properties: { text: "-12.50", type: PbTextField.Type.Real } },
+            { tag: "tall", properties: { text: "tall", height: 61 } },
+            { tag: "secret", properties: { text: "secret", echoMode: TextInput.Password } },
+            { tag: "placeholder", properties: { placeholderText: "a name" } },
+        ];
+    }
+
+    // Nothing may jump when the keyboard comes. Frame and cursor, which may change, are left away.
+    function test_resting_looks_as_in_use(row: var): void {
+        const field = make(Object.assign({ selectAllOnFocus: false, width: 200 }, row.properties));
+        field.background.visible = false;
+        const resting = grabImage(field);
+        field.forceActiveFocus();
+        field.cursorVisible = false;
+        verify(grabImage(field).equals(resting));
+        field.focus = false;
+        verify(grabImage(field).equals(resting));
+        field.text = "";
+        field.placeholderText = "";
+        verify(!grabImage(field).equals(resting), "there was something to see");
+    }
+
+    function test_long_text_ends_in_dots_until_it_is_edited(): void {
+        const field = make({ width: 80, text: "a name that is too long to be shown" });
+        const resting = findChild(field, "resting") as PbText;
+        verify(resting.visible && resting.truncated);
+        field.forceActiveFocus();
+        verify(!resting.visible);
+        field.focus = false;
+        field.select(0, 3);
+        verify(!resting.visible, "a selection is seen");
+    }
+
     function test_comma_replaces_what_is_selected(): void {
         const field = make({ type: PbTextField.Type.Real, text: "12" });
         field.forceActiveFocus();

@@ -6,7 +6,9 @@ QtObject {
     id: _top
 
     property int decimals: 0
-    property string decimalPoint: Qt.locale().decimalPoint
+
+    // That of the language while it is empty; asked for at the first key, since a locale is dear to make.
+    property string decimalPoint: ""
 
     // NaN for anything but a plain decimal number: no blanks, exponents or other bases.
     function parse(text: string): real {
@@ -25,6 +27,6 @@ QtObject {
 
     // True for the key of the language's decimal separator where the text needs a point instead.
     function isForeignPoint(typed: string): bool {
-        return decimals > 0 && typed !== "." && (typed === decimalPoint || typed === ",");
+        return decimals > 0 && typed !== "." && (typed === "," || typed === (decimalPoint || Qt.locale().decimalPoint));
     }
 }
