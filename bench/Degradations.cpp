@@ -1,34 +1,17 @@
 #include "Degradations.h"
 
-#include <opencv2/imgcodecs.hpp>
+#include "Samples.h"
+
 #include <opencv2/imgproc.hpp>
 
 #include <cmath>
 
 namespace {
 
-cv::Mat real(const cv::Mat &picture) {
-    cv::Mat converted;
-    picture.convertTo(converted, CV_32F);
-    return converted;
-}
-
-cv::Mat bytes(const cv::Mat &picture) {
-    cv::Mat converted;
-    picture.convertTo(converted, CV_8U);
-    return converted;
-}
-
 cv::Mat normal(cv::Size size, cv::RNG &random) {
     cv::Mat noise(size, CV_32FC3);
     random.fill(noise, cv::RNG::NORMAL, 0, 1);
     return noise;
-}
-
-cv::Mat compressed(const cv::Mat &picture, int quality) {
-    std::vector<uchar> buffer;
-    cv::imencode(".jpg", picture, buffer, {cv::IMWRITE_JPEG_QUALITY, quality});
-    return cv::imdecode(buffer, cv::IMREAD_COLOR);
 }
 
 double deviation(const cv::Mat &noise) {
@@ -39,7 +22,7 @@ double deviation(const cv::Mat &noise) {
 
 Degraded whiteNoise(const Photograph &p, double sigma, cv::RNG &random) {
     const cv::Mat noise = normal(p.clean.size(), random) * sigma;
-    return {p.clean, bytes(real(p.clean) + noise), sigma};
+    return {p.clean, stored(real(p.clean) + noise), sigma};
 }
 
 /// Noise that has the correlation of white noise smoothed by `grain` pixels.
@@ -47,7 +30,7 @@ Degraded grain(const Photograph &p, double sigma, double size, cv::RNG &random) 
     cv::Mat noise;
     cv::GaussianBlur(normal(p.clean.size(), random), noise, {}, size);
     noise *= sigma / deviation(noise);
-    return {p.clean, bytes(real(p.clean) + noise), sigma};
+    return {p.clean, stored(real(p.clean) + noise), sigma};
 }
 
 /// Photon and readout noise in linear light, correlated by demosaicing, with colour in coarser
@@ -65,23 +48,23 @@ Degraded camera(const Photograph &p, double strength, int quality, cv::RNG &rand
     cv::pow(cv::max(linear + spread.mul(noise), 0), 1 / 2.2, encoded);
     encoded = cv::min(encoded, 1) * 255;
     // Against the same picture compressed, so that what compression takes from texture isn't noise.
-    const cv::Mat picture = compressed(bytes(encoded), quality);
-    return {p.clean, picture, deviation(real(picture) - real(compressed(p.clean, quality)))};
+    const cv::Mat picture = withJpeg(stored(encoded), quality);
+    return {p.clean, picture, deviation(real(picture) - real(withJpeg(p.clean, quality)))};
 }
 
 Degraded reduced(const Photograph &p, double sigma, int method, cv::RNG &random) {
     const cv::Mat noise = normal(p.larger.size(), random) * sigma;
     cv::Mat clean, picture;
     cv::resize(p.larger, clean, p.clean.size(), 0, 0, method);
-    cv::resize(bytes(real(p.larger) + noise), picture, p.clean.size(), 0, 0, method);
+    cv::resize(stored(real(p.larger) + noise), picture, p.clean.size(), 0, 0, method);
     cv::Mat alone;
     cv::resize(noise, alone, p.clean.size(), 0, 0, method);
     return {clean, picture, deviation(alone)};
 }
 
 Degraded compressedNoise(const Photograph &p, double sigma, int quality, cv::RNG &random) {
-    const cv::Mat picture = compressed(whiteNoise(p, sigma, random).picture, quality);
-    return {p.clean, picture, deviation(real(picture) - real(compressed(p.clean, quality)))};
+    const cv::Mat picture = withJpeg(whiteNoise(p, sigma, random).picture, quality);
+    return {p.clean, picture, deviation(real(picture) - real(withJpeg(p.clean, quality)))};
 }
 
 cv::Mat filtered(const cv::Mat &picture, const cv::Mat &kernel) {
@@ -114,7 +97,7 @@ cv::Mat smear(int length, double degrees) {
 }
 
 Degraded withNoise(const Photograph &p, const cv::Mat &blurred, double sigma, cv::RNG &random) {
-    return {p.clean, bytes(blurred + normal(p.clean.size(), random) * sigma), sigma};
+    return {p.clean, stored(blurred + normal(p.clean.size(), random) * sigma), sigma};
 }
 
 } // namespace

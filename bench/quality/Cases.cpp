@@ -1,5 +1,6 @@
 #include "Cases.h"
 
+#include "../Samples.h"
 #include "Damage.h"
 #include "Sensor.h"
 
@@ -70,9 +71,11 @@ void addRaw(std::vector<Case> &cases) {
 void addSharpen(std::vector<Case> &cases, const char *name, const QString &model, bool lens, double noise,
                 const std::vector<std::pair<std::string, cv::Mat>> &kernels) {
     std::vector<Filter> settings;
-    for (const double strength : {0.25, 0.45, 0.65, 0.9})
-        settings.push_back(
-            {u"Sharpen"_s, model, {{u"param1"_s, 0.1}, {u"param2"_s, strength}, {u"isLens"_s, lens}}});
+    for (const double denoise : {0.01, 0.1})
+        for (const double strength : {0.25, 0.33, 0.45, 0.55, 0.65, 0.78, 0.9})
+            settings.push_back({u"Sharpen"_s,
+                                model,
+                                {{u"param1"_s, denoise}, {u"param2"_s, strength}, {u"isLens"_s, lens}}});
     for (const auto &[damage, kernel] : kernels)
         cases.push_back({name, damage + text(", noise %.0f", noise),
                          [kernel = kernel, noise](const cv::Mat &clean, int seed) {
@@ -127,9 +130,11 @@ void addEnlarge(std::vector<Case> &cases) {
         }
         return found;
     };
-    cases.push_back({"Upscale Low resolution, worn", "reduced by 2, JPEG 40",
-                     [](const cv::Mat &clean, int) { return withJpeg(reduced(clean, 2), 40); },
-                     settings(u"Low Resolution"_s, u"param1"_s, 2), Bicubic, 2});
+    for (const int scale : {2, 4})
+        cases.push_back({"Upscale Low resolution, worn", text("reduced by %.0f, JPEG 40", scale),
+                         [scale](const cv::Mat &clean, int) { return withJpeg(reduced(clean, scale), 40); },
+                         settings(u"Low Resolution"_s, u"param1"_s, scale), scale == 2 ? Bicubic : Lanczos,
+                         scale});
     cases.push_back({"Upscale Standard v2, scale 1", "JPEG 20",
                      [](const cv::Mat &clean, int) { return withJpeg(clean, 20); },
                      settings(u"Standard V2"_s, u"param3"_s, 1), LeftAlone});

@@ -1,6 +1,7 @@
 #include "Damage.h"
 
-#include <opencv2/imgcodecs.hpp>
+#include "../Samples.h"
+
 #include <opencv2/imgproc.hpp>
 
 #include <functional>
@@ -13,18 +14,6 @@ cv::Mat noise(cv::Size size, double sigma, int seed) {
     cv::Mat out(size, CV_32FC3);
     cv::RNG random(static_cast<std::uint64_t>(seed) + 1);
     random.fill(out, cv::RNG::NORMAL, 0, sigma);
-    return out;
-}
-
-cv::Mat stored(const cv::Mat &mat) {
-    cv::Mat out;
-    mat.convertTo(out, CV_8U);
-    return out;
-}
-
-cv::Mat real(const cv::Mat &mat) {
-    cv::Mat out;
-    mat.convertTo(out, CV_32F);
     return out;
 }
 
@@ -92,12 +81,6 @@ cv::Mat lineKernel(double length, double angle) {
         return std::clamp(length / 2 + 0.5 - std::abs(along), 0.0, 1.0) *
                std::clamp(1 - std::abs(across), 0.0, 1.0);
     });
-}
-
-cv::Mat withJpeg(const cv::Mat &clean, int quality) {
-    std::vector<uchar> file;
-    cv::imencode(".jpg", clean, file, {cv::IMWRITE_JPEG_QUALITY, quality});
-    return cv::imdecode(file, cv::IMREAD_COLOR);
 }
 
 cv::Mat reduced(const cv::Mat &clean, int factor) {

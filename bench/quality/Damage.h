@@ -15,7 +15,5 @@ cv::Mat gaussianKernel(double sigma);
 cv::Mat discKernel(double radius);
 cv::Mat lineKernel(double length, double angle);
 
-cv::Mat withJpeg(const cv::Mat &clean, int quality);
-
 /// Reduced by a whole factor with an antialiased bicubic filter; the size must divide.
 cv::Mat reduced(const cv::Mat &clean, int factor);
