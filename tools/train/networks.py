@@ -53,8 +53,26 @@ class Network(nn.Module):
 
 
 def grown_from(network, weights):
-    """Starts a network from another's weights where the shapes agree; returns the names that were taken."""
-    own = network.state_dict()
-    taken = {name: value for name, value in weights.items() if name in own and own[name].shape == value.shape}
-    network.load_state_dict({**own, **taken})
+    """Starts a network from another's weights; returns the names that were taken.
+
+    A wider or deeper network of the same kind computes what the other did (Chen and others 2016, Net2Net): old channels
+    get nothing from new ones, and new blocks add nothing yet. What differs in another way keeps its own start.
+    """
+    own, taken = network.state_dict(), []
+    for name, value in weights.items():
+        mine, theirs = own[name].shape if name in own else (), value.shape
+        other_input = name == "head.weight" and mine[1:] != theirs[1:]
+        other_output = name.startswith("tail") and mine[:1] != theirs[:1]
+        if len(mine) != len(theirs) or any(m < t for m, t in zip(mine, theirs)) or other_input or other_output:
+            continue
+        grown = own[name].clone()
+        if value.dim() == 4:
+            grown[: value.shape[0]] = 0
+        grown[tuple(slice(size) for size in value.shape)] = value
+        own[name] = grown
+        taken.append(name)
+    for name in own:
+        if name.startswith("body") and ".second." in name and name not in weights:
+            own[name] = torch.zeros_like(own[name])
+    network.load_state_dict(own)
     return sorted(taken)

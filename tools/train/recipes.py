@@ -49,6 +49,8 @@ _slight = Mix(noise=0.5, noise_range=(0, 10), camera=0.3, correlated=0.1, chroma
 _plain = Mix(noise=0.25, noise_range=(0, 12), camera=0.2, chroma=0, blur=0.2, gaussian=(0.3, 1.2), kinds=("gaussian",), jpeg=0.15,
              jpeg_range=(30, 95))
 _fine = replace(_plain, noise=0.1, blur=0.1, jpeg=0.07)
+_poor = replace(_plain, noise=0.7, noise_range=(0, 25), camera=0.4, blur=0.4, jpeg=0.8, jpeg_range=(10, 80))
+_screen = replace(_plain, camera=0, jpeg=0.3)
 _sensor = Mix(noise=0.97, noise_range=(0, 50), sensor=0.9, camera=0.5, chroma=0.15, chroma_range=(0, 20), blur=0.2, gaussian=(0.3, 1.2),
               kinds=("gaussian",), jpeg=0)
 _drawn = (("drawings", 0.85), ("photographs", 0.15))
@@ -63,8 +65,8 @@ RECIPES = {
                        jpeg=0.07, jpeg_range=(40, 95))),
         Recipe("denoise-strong", channels=80, blocks=6, steps=60000,
                mix=Mix(noise=1, noise_range=(0, 75), camera=0.25, chroma=0.15, blur=0.07, gaussian=(0.3, 1.2), jpeg=0.07)),
-        Recipe("denoise-extreme", channels=96, blocks=9, steps=60000,
-               mix=Mix(noise=1, noise_range=(0, 100), camera=0.3, correlated=0.15, chroma=0.4, blur=0.07, gaussian=(0.3, 1.2),
+        Recipe("denoise-extreme", start="denoise-strong", channels=96, blocks=9, batch=8, steps=8000, rate=4e-4,
+               mix=Mix(noise=1, noise_range=(0, 100), camera=0.25, correlated=0.15, chroma=0.3, blur=0.07, gaussian=(0.3, 1.2),
                        jpeg=0.07)),
         Recipe("raw-native", start="denoise-normal", steps=6000, rate=4e-4, mix=_sensor),
         Recipe("raw-standard", start="denoise-strong", channels=80, blocks=6, steps=20000, rate=6e-4,
@@ -82,11 +84,14 @@ RECIPES = {
         Recipe("enlarge-2x", scale=2, channels=64, side=128, steps=20000, sources=_both, mix=_plain),
         Recipe("enlarge-2x-crisp", start="enlarge-2x", scale=2, channels=64, side=128, steps=5000, rate=4e-4, sources=_both, mix=_fine),
         Recipe("enlarge-2x-fine", scale=2, channels=96, blocks=7, side=128, steps=60000, sources=_both, mix=_fine),
-        Recipe("enlarge-2x-worn", start="enlarge-2x", scale=2, channels=64, side=128, steps=5000, rate=4e-4,
-               mix=replace(_plain, noise=0.7, noise_range=(0, 25), camera=0.4, blur=0.4, jpeg=0.8, jpeg_range=(10, 80))),
+        Recipe("enlarge-2x-worn", start="enlarge-2x", scale=2, channels=64, side=128, steps=5000, rate=4e-4, mix=_poor),
         Recipe("enlarge-2x-graphics", start="enlarge-2x", scale=2, channels=64, side=128, steps=10000, rate=8e-4, sources=_drawn,
-               mix=replace(_plain, camera=0, jpeg=0.3)),
+               mix=_screen),
         Recipe("enlarge-4x", start="enlarge-2x", scale=4, channels=64, side=128, steps=8000, rate=6e-4, sources=_both, mix=_plain),
+        Recipe("enlarge-4x-crisp", start="enlarge-4x", scale=4, channels=64, side=192, steps=5000, rate=4e-4, sources=_both, mix=_fine),
+        Recipe("enlarge-4x-worn", start="enlarge-4x", scale=4, channels=64, side=192, steps=5000, rate=4e-4, mix=_poor),
         Recipe("enlarge-4x-fine", scale=4, channels=96, blocks=7, side=192, steps=60000, sources=_both, mix=_fine),
+        Recipe("enlarge-4x-graphics", start="enlarge-4x-fine", scale=4, channels=96, blocks=7, side=192, steps=5000, rate=4e-4,
+               sources=_drawn, mix=_screen),
     )
 }
