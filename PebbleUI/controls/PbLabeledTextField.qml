@@ -48,7 +48,7 @@ Rectangle {
         width: Math.min(implicitWidth, _top.width / 2)
         height: parent.height
         text: _top.labelText
-        color: PebbleStyle.color.lightGray
+        color: PebbleStyle.color.textQuiet
         Accessible.ignored: true
     }
 
@@ -74,7 +74,7 @@ Rectangle {
         width: implicitWidth
         height: parent.height
         text: _top.units
-        color: PebbleStyle.color.lightGray
+        color: PebbleStyle.color.textQuiet
         Accessible.ignored: true
     }
 }

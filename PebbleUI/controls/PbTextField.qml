@@ -42,7 +42,7 @@ T.TextField {
     validator: type === PbTextField.Type.Integer ? _integer : type === PbTextField.Type.Real ? _real : null
 
     color: enabled ? PebbleStyle.color.textLight : PebbleStyle.color.textDisabled
-    placeholderTextColor: PebbleStyle.color.lightGray
+    placeholderTextColor: PebbleStyle.color.textQuiet
     selectionColor: PebbleStyle.color.primeBlue
     selectedTextColor: PebbleStyle.color.alwaysDark
     font: PebbleStyle.font.body.font
@@ -98,16 +98,10 @@ T.TextField {
     // The toolkit clips what a field draws, and so draws each by itself, which is dear in a panel full of them.
     PbInk.shown: _private.inUse
 
-    PbText {
+    PbRestingText {
         objectName: "resting"
-        x: _top.leftPadding
-        width: _top.width - _top.leftPadding - _top.rightPadding
-        height: _top.height
-        visible: !_private.inUse || (_private.isEmpty && _top.preeditText === "")
-        text: _private.isEmpty ? _top.placeholderText : _top.displayText
-        color: _private.isEmpty ? _top.placeholderTextColor : _top.color
-        font: _top.font
-        horizontalAlignment: _top.horizontalAlignment
+        field: _top
+        inUse: _private.inUse
     }
 
     IntValidator {
@@ -137,9 +131,6 @@ T.TextField {
         id: _private
 
         readonly property bool isNumber: _top.type !== PbTextField.Type.Text
-        readonly property bool isEmpty: _top.length === 0
-
-        // While it isn't, a text that can't be scrolled stands in for the editor's, and ends in dots if it is too long.
         readonly property bool inUse: _top.activeFocus || _top.selectedText !== ""
         property bool selectOnRelease: false
 

@@ -20,6 +20,7 @@ list(APPEND PEBBLE_QML
   controls/PbLabeledTextField.qml
   controls/PbMultiComboBox.qml
   controls/PbRadioButton.qml
+  controls/PbRestingText.qml
   controls/PbScrollBar.qml
   controls/PbSectionedComboBox.qml
   controls/PbSlider.qml

@@ -46,6 +46,8 @@ QtObject {
     readonly property color textHoverDark: darkMode ? _black : _white
     readonly property color textDisabled: darkMode ? _gray6 : _gray4
     readonly property color textSecondary: darkMode ? _gray4 : _gray5
+    // What stands in a field and is no value: placeholders, labels, units.
+    readonly property color textQuiet: darkMode ? _gray4 : _gray6
     readonly property color textWarning: darkMode ? warningYellow : textAlwaysDark
     readonly property color textError: darkMode ? primeRed : textAlwaysDark
     readonly property color textAlwaysLight: _gray0

@@ -28,7 +28,7 @@ TestCase {
         const rows = [];
         for (const dark of [true, false])
             for (const [text, on] of [["textLight", "pageBkg"], ["textLight", "panelBkg"], ["textLight", "darkerGray"],
-                                      ["lightGray", "darkerGray"], ["lightGray", "panelBkg"],
+                                      ["textQuiet", "darkerGray"], ["lightGray", "panelBkg"],
                                       ["lighterGray", "darkestGray"], ["textLight", "noteBkg"], ["alwaysDark", "primeBlue"],
                                       ["textWarning", "panelBkg"], ["textError", "pageBkg"], ["title", "panelBkg"]])
                 rows.push({ tag: `${text} on ${on}, ${dark ? "dark" : "light"}`, dark: dark, text: text, on: on });
