@@ -5,9 +5,10 @@
 
 namespace {
 
-/// Up to this strength the picture's own noise comes in by degrees, so that a slider at its least
-/// changes next to nothing.
+/// Up to these strengths the picture's own noise comes in by degrees, so that a slider at its least
+/// changes next to nothing. Of a model for heavy noise a tenth is much already.
 constexpr double FullNoiseStrength = 0.25;
+constexpr double FullChromaStrength = 0.1;
 constexpr double MostCondition = 2; ///< networks learn values from 0 to 1, some a little more
 
 /// Noise of colour: in spots, and beyond what white noise would have, which is 1.52 times that of
@@ -39,10 +40,10 @@ double given(const QString &role, const FilterInput &input, double scale) {
     if (role == NetworkChoice::Always)
         return std::clamp(scale - 1, 0.0, 1.0);
     if (role == NetworkChoice::Noise || role == NetworkChoice::ChromaNoise) {
-        const double share = input.values.number(QStringLiteral("strength")) / FullNoiseStrength;
-        const bool chroma = role == NetworkChoice::ChromaNoise;
-        return std::min(1.0, share) *
-               (chroma ? colourNoise(input.statistics) : double(input.statistics.lumaNoise));
+        const double strength = input.values.number(QStringLiteral("strength"));
+        return role == NetworkChoice::Noise
+                   ? std::min(1.0, strength / FullNoiseStrength) * double(input.statistics.lumaNoise)
+                   : std::min(1.0, strength / FullChromaStrength) * colourNoise(input.statistics);
     }
     return input.values.number(role);
 }

@@ -34,7 +34,8 @@ def _exported(name):
     channels, inputs = weights["head.weight"].shape[:2]
     blocks = sum(key.endswith("first.weight") for key in weights)
     scale = {12: 1, 48: 2, 192: 4}[weights["tail.weight"].shape[0]]
-    return dict(shape=dict(conditions=inputs - 12, channels=channels, blocks=blocks, scale=scale), weights=weights, step=0)
+    groups = channels // weights["body.0.first.weight"].shape[1]
+    return dict(shape=dict(conditions=inputs - 12, channels=channels, blocks=blocks, scale=scale, groups=groups), weights=weights, step=0)
 
 
 def load(name_or_path):

@@ -68,11 +68,12 @@ def card(recipe, network, state):
     source = recipe.sources[0][0]
     where = "on an accelerator beside up to four other networks" if state.get("device") == "cuda" else "on one core"
     rows = [f"| {name} | {before:.2f} | {after:.2f} |" for name, before, after in validate.scores(network, source)]
+    groups = f" in {recipe.groups} groups" if recipe.groups > 1 else ""
     mix = ", ".join(f"{key} {value}" for key, value in vars(recipe.mix).items())
     return "\n".join([
         f"# {recipe.name}",
         "",
-        f"A network of {recipe.blocks} residual blocks of 3x3 convolutions with {recipe.channels} channels at half resolution, "
+        f"A network of {recipe.blocks} residual blocks of 3x3 convolutions with {recipe.channels} channels{groups} at half resolution, "
         f"scale {recipe.scale}: {sum(p.numel() for p in network.parameters()):,} parameters, "
         f"{network.multiply_adds / 1000:.1f} thousand multiply-adds for each input pixel, halo {network.halo} pixels.",
         "",

@@ -9,10 +9,10 @@ from torch.nn import functional as F
 
 
 class Block(nn.Module):
-    def __init__(self, channels):
+    def __init__(self, channels, groups):
         super().__init__()
-        self.first = nn.Conv2d(channels, channels, 3, padding=1)
-        self.second = nn.Conv2d(channels, channels, 3, padding=1)
+        self.first = nn.Conv2d(channels, channels, 3, padding=1, groups=groups)
+        self.second = nn.Conv2d(channels, channels, 3, padding=1, groups=groups)
         nn.init.zeros_(self.second.bias)
         self.second.weight.data *= 0.3
 
@@ -21,14 +21,17 @@ class Block(nn.Module):
 
 
 class Network(nn.Module):
-    """scale 1: returns the restored picture. scale 2 and 4: returns what to add to a bicubic enlargement."""
+    """scale 1: returns the restored picture. scale 2 and 4: returns what to add to a bicubic enlargement.
 
-    def __init__(self, conditions, channels, blocks, scale=1):
+    With groups, the blocks are as many networks side by side, which share head and tail.
+    """
+
+    def __init__(self, conditions, channels, blocks, scale=1, groups=1):
         super().__init__()
-        self.shape = dict(conditions=conditions, channels=channels, blocks=blocks, scale=scale)
+        self.shape = dict(conditions=conditions, channels=channels, blocks=blocks, scale=scale, groups=groups)
         self.scale = scale
         self.head = nn.Conv2d(12 + conditions, channels, 3, padding=1)
-        self.body = nn.Sequential(*(Block(channels) for _ in range(blocks)))
+        self.body = nn.Sequential(*(Block(channels, groups) for _ in range(blocks)))
         self.tail = nn.Conv2d(channels, 12 * scale * scale, 3, padding=1)
         self.tail.weight.data *= 0.1
         nn.init.zeros_(self.tail.bias)
@@ -53,26 +56,31 @@ class Network(nn.Module):
 
 
 def grown_from(network, weights):
-    """Starts a network from another's weights; returns the names that were taken.
-
-    A wider or deeper network of the same kind computes what the other did (Chen and others 2016, Net2Net): old channels
-    get nothing from new ones, and new blocks add nothing yet. What differs in another way keeps its own start.
-    """
-    own, taken = network.state_dict(), []
-    for name, value in weights.items():
-        mine, theirs = own[name].shape if name in own else (), value.shape
-        other_input = name == "head.weight" and mine[1:] != theirs[1:]
-        other_output = name.startswith("tail") and mine[:1] != theirs[:1]
-        if len(mine) != len(theirs) or any(m < t for m, t in zip(mine, theirs)) or other_input or other_output:
-            continue
-        grown = own[name].clone()
-        if value.dim() == 4:
-            grown[: value.shape[0]] = 0
-        grown[tuple(slice(size) for size in value.shape)] = value
-        own[name] = grown
-        taken.append(name)
-    for name in own:
-        if name.startswith("body") and ".second." in name and name not in weights:
-            own[name] = torch.zeros_like(own[name])
-    network.load_state_dict(own)
+    """Starts a network from another's weights where the shapes agree; returns the names that were taken."""
+    own = network.state_dict()
+    taken = {name: value for name, value in weights.items() if name in own and own[name].shape == value.shape}
+    network.load_state_dict({**own, **taken})
     return sorted(taken)
+
+
+def _turned(weights):
+    """What gives for a picture mirrored at its diagonal the mirrored answer: the same network looking the other way."""
+    order = torch.arange(12).view(3, 2, 2).transpose(1, 2).reshape(-1)  # of the pixels that make one at half resolution
+    turned = {name: value.transpose(2, 3) if value.dim() == 4 else value for name, value in weights.items()}
+    turned["head.weight"] = torch.cat([turned["head.weight"][:, order], turned["head.weight"][:, 12:]], 1)
+    for name in ("tail.weight", "tail.bias"):
+        turned[name] = turned[name][order]
+    return turned
+
+
+def doubled_from(network, weights):
+    """Starts a network of two groups, scale 1, as the mean of another network's two ways to look at a picture.
+
+    Self-ensemble (Timofte and others 2016) with the second look in the weights; from there the groups learn apart.
+    """
+    turned, own = _turned(weights), {}
+    for name, value in weights.items():
+        tail = name.startswith("tail")
+        own[name] = torch.cat([value, turned[name]], 1 if tail else 0) if name != "tail.bias" else value + turned[name]
+        own[name] = own[name] / 2 if tail else own[name]
+    network.load_state_dict(own)

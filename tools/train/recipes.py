@@ -32,6 +32,7 @@ class Recipe:
     start: str = ""
     channels: int = 48
     blocks: int = 4
+    groups: int = 1
     scale: int = 1
     side: int = 112
     batch: int = 16
@@ -65,9 +66,8 @@ RECIPES = {
                        jpeg=0.07, jpeg_range=(40, 95))),
         Recipe("denoise-strong", channels=80, blocks=6, steps=60000,
                mix=Mix(noise=1, noise_range=(0, 75), camera=0.25, chroma=0.15, blur=0.07, gaussian=(0.3, 1.2), jpeg=0.07)),
-        Recipe("denoise-extreme", start="denoise-strong", channels=96, blocks=9, batch=8, steps=8000, rate=4e-4,
-               mix=Mix(noise=1, noise_range=(0, 100), camera=0.25, correlated=0.15, chroma=0.3, blur=0.07, gaussian=(0.3, 1.2),
-                       jpeg=0.07)),
+        Recipe("denoise-extreme", start="denoise-strong", channels=160, blocks=6, groups=2, batch=8, steps=2500, rate=5e-5,
+               mix=Mix(noise=1, noise_range=(0, 100), camera=0.25, chroma=0.25, blur=0.07, gaussian=(0.3, 1.2), jpeg=0.07)),
         Recipe("raw-native", start="denoise-normal", steps=6000, rate=4e-4, mix=_sensor),
         Recipe("raw-standard", start="denoise-strong", channels=80, blocks=6, steps=20000, rate=6e-4,
                mix=replace(_sensor, noise=1, noise_range=(0, 90))),

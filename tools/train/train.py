@@ -13,7 +13,7 @@ import torch
 import checkpoints
 import validate
 from batches import Batches
-from networks import Network, grown_from
+from networks import Network, doubled_from, grown_from
 from recipes import RECIPES
 from step import Step
 
@@ -27,12 +27,14 @@ def _share(step, steps, begin, minutes):
 
 
 def train(recipe, steps, minutes, resume, seed, device):
-    network = Network(len(recipe.conditions), recipe.channels, recipe.blocks, recipe.scale)
+    network = Network(len(recipe.conditions), recipe.channels, recipe.blocks, recipe.scale, recipe.groups)
     done, state = 0, {}
     if resume and checkpoints.path_of(recipe.name).exists():
         _, state = checkpoints.load(recipe.name)
         network.load_state_dict(state["training"])
         done = state["step"]
+    elif recipe.groups > 1 and recipe.start != recipe.name:
+        doubled_from(network, checkpoints.load(recipe.start)[1]["weights"])
     elif recipe.start:
         print("taken:", len(grown_from(network, checkpoints.load(recipe.start)[1]["weights"])), "tensors", flush=True)
     network = network.to(device, memory_format=torch.channels_last)
