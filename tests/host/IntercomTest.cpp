@@ -36,14 +36,22 @@ namespace {
 
 class Intercom : public testing::Test {
 protected:
-    int runClient(const QString &message) {
-        QProcess client;
+    void startClient(QProcess &client, const QString &message) const {
         client.start(QCoreApplication::applicationFilePath(),
                      {u"--instance"_s, u"client"_s, m_dir.path(), message});
-        // The server answers from this thread's event loop.
-        while (!client.waitForFinished(10))
-            QCoreApplication::processEvents();
+    }
+
+    /// The server answers from this thread's event loop, which may be what notices the client's end.
+    static int endOf(QProcess &client) {
+        const auto ended = [&client] { return client.state() == QProcess::NotRunning; };
+        EXPECT_TRUE(QTest::qWaitFor(ended, 60000));
         return client.exitCode();
+    }
+
+    int runClient(const QString &message) const {
+        QProcess client;
+        startClient(client, message);
+        return endOf(client);
     }
 
     QTemporaryDir m_dir;
@@ -81,13 +89,10 @@ TEST_F(Intercom, BusyServerStillTakesOver) {
     server.setExternalEditor(u"standalone"_s);
     QSignalSpy merged(&server, &TIntercom::mergeInstance);
     QProcess client;
-    client.start(QCoreApplication::applicationFilePath(),
-                 {u"--instance"_s, u"client"_s, m_dir.path(), u"plugin:standalone::[]"_s});
+    startClient(client, u"plugin:standalone::[]"_s);
     // Longer than the client waits for the receipt: a server that is still starting.
     EXPECT_FALSE(client.waitForFinished(4000));
-    while (!client.waitForFinished(10))
-        QCoreApplication::processEvents();
-    EXPECT_EQ(client.exitCode(), Ended);
+    EXPECT_EQ(endOf(client), Ended);
     EXPECT_EQ(merged.size(), 1);
 }
 
