@@ -1,7 +1,7 @@
 # Makes the icon resources and the documents that name them out of one table, icons.json.
 #
 # pebble_icons(<table> <folder of the icon set> <out folder>) copies <set>/<file>.svg to
-# <out>/icons/<role-in-kebab-case>.svg for every role of the table, writes <out>/style/PbIcons.qml and
+# <out>/icons/<role-in-kebab-case>.svg for every role of the table, writes <out>/style/PbIcons.h and
 # <out>/style/BaseIcons.qml, and sets PEBBLE_ICON_FILES and PEBBLE_BASE_ICON_FILES for the caller.
 function(pebble_icons table set out)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${table})
@@ -20,7 +20,7 @@ function(pebble_icons table set out)
     configure_file(${set}/${file}.svg ${out}/icons/${kebab}.svg COPYONLY)
     list(APPEND files ${out}/icons/${kebab}.svg)
     list(APPEND roles ${role})
-    string(APPEND all "    readonly property url ${role}: _folder + \"${kebab}.svg\"\n")
+    string(APPEND all "    PB_TOKEN(QUrl, ${role}, named(\"${kebab}.svg\"))\n")
   endforeach()
 
   string(JSON count LENGTH "${json}" base)
@@ -37,7 +37,7 @@ function(pebble_icons table set out)
   endforeach()
 
   set(PEBBLE_ICON_ROLES "${all}")
-  configure_file(${CMAKE_CURRENT_SOURCE_DIR}/style/PbIcons.qml.in ${out}/style/PbIcons.qml @ONLY)
+  configure_file(${CMAKE_CURRENT_SOURCE_DIR}/style/PbIcons.h.in ${out}/style/PbIcons.h @ONLY)
   set(PEBBLE_ICON_ROLES "${base}")
   configure_file(${CMAKE_CURRENT_SOURCE_DIR}/style/BaseIcons.qml.in ${out}/style/BaseIcons.qml @ONLY)
   set(PEBBLE_ICON_FILES ${files} PARENT_SCOPE)

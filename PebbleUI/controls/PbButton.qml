@@ -38,6 +38,11 @@ T.AbstractButton {
         return PbFocusRings.of(_top, background, PebbleStyle.size.mediumRadius);
     }
 
+    // One of the style's colours, as the button stands.
+    function _shade(colors: PbStateColors): color {
+        return !enabled ? colors.disabled : _lit ? colors.hovered : selected ? colors.selected : colors.normal;
+    }
+
     padding: _small ? PebbleStyle.size.buttonPaddingCompact : PebbleStyle.size.buttonPadding
     topPadding: 0
     bottomPadding: 0
@@ -57,19 +62,19 @@ T.AbstractButton {
 
     background: PbBox {
         radius: PebbleStyle.size.mediumRadius
-        color: _top.style.background.pick(_top.enabled, _top._lit, _top.selected)
+        color: _top._shade(_top.style.background)
     }
 
     contentItem: Item {
         id: _content
 
-        readonly property bool _hasIcon: _icon.status !== Image.Null
+        readonly property bool _hasIcon: _top.iconSource.toString() !== ""
         readonly property bool _hasText: _label.text !== ""
         readonly property real _iconSpace: _hasIcon ? _icon.width + (_hasText ? _top.contentSpacing : 0) : 0
-        readonly property real _textSpace: {
-            const room = Math.max(0, width - _iconSpace);
-            return _top.fillWidth ? room : Math.min(_label.implicitWidth, room);
-        }
+        readonly property real _room: Math.max(0, width - _iconSpace)
+        // A text is laid out anew whenever its width is set: it keeps its own until the button is too narrow.
+        readonly property bool _fills: width > 0 && (_top.fillWidth || _label.implicitWidth > _room)
+        readonly property real _textSpace: _fills ? _room : _label.implicitWidth
         readonly property bool _mirrored: _top.layoutDirection === Qt.RightToLeft
         readonly property real _start: {
             const rest = width - _iconSpace - (_hasText ? _textSpace : 0);
@@ -86,17 +91,17 @@ T.AbstractButton {
             iconSource: _top.iconSource
             iconWidth: _top.iconWidth
             iconHeight: _top.iconHeight
-            color: _top.style.icon.pick(_top.enabled, _top._lit, _top.selected)
+            color: _top._shade(_top.style.icon)
         }
 
         PbText {
             id: _label
             x: _content._start + (_content._mirrored ? 0 : _content._iconSpace)
             anchors.verticalCenter: parent.verticalCenter
-            width: _content._textSpace
+            width: _content._fills ? _content._room : implicitWidth
             text: _top.showText ? _top.text : ""
             type: _top._small ? PbLabel.Type.Title : PbLabel.Type.CTA
-            color: _top.style.label.pick(_top.enabled, _top._lit, _top.selected)
+            color: _top._shade(_top.style.label)
             horizontalAlignment: _top.alignCenter ? Text.AlignHCenter : Text.AlignLeft
         }
     }

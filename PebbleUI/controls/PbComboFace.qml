@@ -11,13 +11,13 @@ PbText {
     required property real iconSize
 
     // Made when asked for: few choices have an icon.
-    readonly property bool _hasIcon: _icon.active
+    readonly property bool _hasIcon: iconSource.toString() !== ""
 
     leftPadding: _hasIcon ? iconSize + PebbleStyle.size.spacing : 0
 
     Loader {
         id: _icon
-        active: String(_top.iconSource) !== ""
+        active: _top._hasIcon
         y: (_top.height - height) / 2
         sourceComponent: PbIcon {
             iconSource: _top.iconSource

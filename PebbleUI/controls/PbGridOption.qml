@@ -18,9 +18,14 @@ T.AbstractButton {
     property bool alignLeft: false
 
     readonly property PbButtonStyle _style: PbButtonStyles.byType[type] ?? PbButtonStyles.secondary
-    readonly property color _ink: _style.label.pick(enabled, hovered || down, selected)
+    readonly property color _ink: _shade(_style.label)
     readonly property color _noteInk: selected || hovered || down ? _ink : PebbleStyle.color.lighterGray
     readonly property string _valueText: showValue ? String(value ?? "") : ""
+
+    // One of the style's colours, as the option stands.
+    function _shade(colors: PbStateColors): color {
+        return !enabled ? colors.disabled : hovered || down ? colors.hovered : selected ? colors.selected : colors.normal;
+    }
 
     // The ring that shows where the keyboard is.
     function focusRing(): PbFocusRing {
@@ -46,7 +51,7 @@ T.AbstractButton {
 
     background: PbBox {
         radius: PebbleStyle.size.smallRadius
-        color: _top._style.background.pick(_top.enabled, _top.hovered || _top.down, _top.selected)
+        color: _top._shade(_top._style.background)
         border.width: _top.selected ? PebbleStyle.size.border : 0
         border.color: _top.enabled ? PebbleStyle.color.primeBlue : PebbleStyle.color.gray
     }
@@ -69,7 +74,7 @@ T.AbstractButton {
             PbIcon {
                 id: _icon
                 iconSource: _top.iconSource
-                color: _top._style.icon.pick(_top.enabled, _top.hovered || _top.down, _top.selected)
+                color: _top._shade(_top._style.icon)
                 anchors.verticalCenter: parent.verticalCenter
             }
 

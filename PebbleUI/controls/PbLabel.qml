@@ -15,7 +15,7 @@ T.Label {
     property bool hovered: _tip.hovered
     property alias tooltip: _tip
 
-    readonly property PbTextRole _role: PebbleStyle.font.byType[type] ?? PebbleStyle.font.body
+    readonly property PbTextRole _role: PebbleStyle.font.ofType(type)
 
     color: enabled ? PebbleStyle.color.textLight : PebbleStyle.color.textDisabled
     linkColor: PebbleStyle.darkMode ? PebbleStyle.color.primeBlue : PebbleStyle.color.textLight

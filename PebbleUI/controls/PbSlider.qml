@@ -8,8 +8,8 @@ T.Slider {
     id: _top
 
     // Minus infinity means unset. An unset default takes the first value.
-    property real defaultValue: Number.NEGATIVE_INFINITY
-    property real autoValue: Number.NEGATIVE_INFINITY
+    property real defaultValue: -Infinity
+    property real autoValue: -Infinity
 
     // Takes the place of the track's colours.
     property Gradient gradient: null
@@ -48,7 +48,7 @@ T.Slider {
     Accessible.onIncreaseAction: _private.stepBy(1)
     Accessible.onDecreaseAction: _private.stepBy(-1)
     Component.onCompleted: {
-        if (defaultValue === Number.NEGATIVE_INFINITY)
+        if (defaultValue === -Infinity)
             defaultValue = value;
     }
     onPressedChanged: {

@@ -3,7 +3,6 @@ list(APPEND PEBBLE_QML
   controls/PbAutoPilotDot.qml
   controls/PbBusySpinner.qml
   controls/PbButton.qml
-  controls/PbButtonStyle.qml
   controls/PbCheckBox.qml
   controls/PbComboBox.qml
   controls/PbComboFace.qml
@@ -25,7 +24,6 @@ list(APPEND PEBBLE_QML
   controls/PbSectionedComboBox.qml
   controls/PbSlider.qml
   controls/PbSliderTrack.qml
-  controls/PbStateColors.qml
   controls/PbSwitch.qml
   controls/PbTextField.qml
   controls/behaviour/PbDoublePress.qml

@@ -9,7 +9,7 @@ Text {
     // One of PbLabel.Type.
     property int type: PbLabel.Type.Body
 
-    readonly property PbTextRole _role: PebbleStyle.font.byType[type] ?? PebbleStyle.font.body
+    readonly property PbTextRole _role: PebbleStyle.font.ofType(type)
 
     color: enabled ? PebbleStyle.color.textLight : PebbleStyle.color.textDisabled
     linkColor: PebbleStyle.darkMode ? PebbleStyle.color.primeBlue : PebbleStyle.color.textLight

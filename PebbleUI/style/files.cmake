@@ -1,11 +1,5 @@
-# Colours, fonts, sizes, times and icon paths: the groups of PebbleStyle, and the older BaseTheme.
+# The older BaseTheme. What PebbleStyle gives is in C++ and listed with the library's sources.
 list(APPEND PEBBLE_QML
   style/BaseFonts.qml
   style/BaseTheme.qml
-  style/PbBrand.qml
-  style/PbColors.qml
-  style/PbFonts.qml
-  style/PbMetrics.qml
-  style/PbTextRole.qml
-  style/PbTimes.qml
 )

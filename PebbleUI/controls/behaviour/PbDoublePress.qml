@@ -7,12 +7,12 @@ QtObject {
     // The longest time between the two presses, in milliseconds.
     required property int interval
 
-    property real _first: Number.NEGATIVE_INFINITY
+    property real _first: -Infinity
 
     // To be called at each press, with its time in milliseconds. True for the second of a pair.
     function press(now: real): bool {
         const isSecond = now - _first <= interval && now >= _first;
-        _first = isSecond ? Number.NEGATIVE_INFINITY : now;
+        _first = isSecond ? -Infinity : now;
         return isSecond;
     }
 }
