@@ -1,5 +1,6 @@
 #include "engine/core/TileScheduler.h"
 
+#include <algorithm>
 #include <atomic>
 #include <mutex>
 #include <system_error>
@@ -7,7 +8,34 @@
 
 namespace {
 
-constexpr int LeastSplit = 192; ///< what is narrower is not cut for the sake of a further thread
+constexpr int LeastSplit = 96;   ///< no piece is made narrower for the sake of a further thread
+constexpr int Surroundings = 48; ///< what a typical stage reads more than it makes, on both sides together
+
+struct Grid {
+    int columns;
+    int rows;
+
+    /// The pixels that the busiest thread goes through.
+    double load(const TRect &area, int threads) const {
+        const int rounds = (columns * rows + threads - 1) / threads;
+        return rounds * (double(area.width) / columns + Surroundings) *
+               (double(area.height) / rows + Surroundings);
+    }
+};
+
+/// Tiles of `side` at most; more of them where that spreads the work over the threads better.
+Grid gridOf(const TRect &area, int side, int threads) {
+    const Grid least{(area.width + side - 1) / side, (area.height + side - 1) / side};
+    const auto most = [threads](int pieces, int length) {
+        return std::max(pieces, std::min(pieces + threads - 1, length / LeastSplit));
+    };
+    Grid best = least;
+    for (int columns = least.columns; columns <= most(least.columns, area.width); ++columns)
+        for (int rows = least.rows; rows <= most(least.rows, area.height); ++rows)
+            if (const Grid grid{columns, rows}; grid.load(area, threads) < best.load(area, threads))
+                best = grid;
+    return best;
+}
 
 /// Where `count` pieces of a length begin, with its end behind them.
 std::vector<int> cuts(int from, int length, int count) {
@@ -19,14 +47,8 @@ std::vector<int> cuts(int from, int length, int count) {
 
 } // namespace
 
-std::vector<TRect> tilesOf(const TRect &area, int side, int wanted) {
-    int columns = (area.width + side - 1) / side, rows = (area.height + side - 1) / side;
-    while (columns * rows < wanted) {
-        const int width = area.width / columns, height = area.height / rows;
-        if (std::max(width, height) < LeastSplit)
-            break;
-        ++(width > height ? columns : rows);
-    }
+std::vector<TRect> tilesOf(const TRect &area, int side, int threads) {
+    const auto [columns, rows] = gridOf(area, side, std::max(1, threads));
     const std::vector<int> x = cuts(area.x, area.width, columns), y = cuts(area.y, area.height, rows);
     std::vector<TRect> tiles;
     for (std::size_t j = 1; j < y.size(); ++j)

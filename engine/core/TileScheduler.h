@@ -8,9 +8,9 @@
 #include <stop_token>
 #include <vector>
 
-/// The tiles of `area` row by row: at most `side` wide and high, of about one size, and where the
-/// area isn't tiny at least `wanted` of them.
-std::vector<TRect> tilesOf(const TRect &area, int side, int wanted = 1);
+/// The tiles of `area` row by row: at most `side` wide and high, of about one size, and as many as keep all
+/// `threads` about equally busy where the area isn't tiny.
+std::vector<TRect> tilesOf(const TRect &area, int side, int threads = 1);
 
 struct TileRun {
     enum class End { Done, Stopped, OutOfMemory, Failed };
