@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double LargeSeconds = 25;
-constexpr double LargeMegabytes = 1200;
+constexpr double LargeSeconds = 15;
+constexpr double LargeMegabytes = 1000;
 constexpr double SteadyMemory = 1.2; // 1,000 files against 100
 constexpr double Overlap = 1.0;      // sum of the stages against the time they took together
 

@@ -15,9 +15,9 @@ namespace {
 
 constexpr int CropSide = 200;
 
-/// The most detailed square of a picture.
+/// The most detailed square of a picture, or all of a smaller one.
 cv::Rect detailedPart(const cv::Mat &picture) {
-    cv::Rect best;
+    cv::Rect best({}, picture.size());
     double most = -1;
     for (int y = 0; y + CropSide <= picture.rows; y += CropSide / 4) {
         for (int x = 0; x + CropSide <= picture.cols; x += CropSide / 4) {

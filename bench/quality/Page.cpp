@@ -21,16 +21,28 @@ QString pictureName(const std::string &model) {
     return QString::fromStdString(model).toLower().replace(u", "_s, u"-"_s).replace(u' ', u'-') + u".jpg"_s;
 }
 
-void writeHow(QTextStream &page, int photographs) {
-    page << "# What the models do to pictures\n\n"
-         << "Made by `tools/quality`: " << photographs
-         << R"( photographs that no network learned from, and drawings
+void writeHow(QTextStream &page, const PageSource &source) {
+    page << "# What the models do to pictures\n\n";
+    if (source.folder.isEmpty())
+        page << "Made by `tools/quality`: " << source.photographs
+             << R"( photographs that no network learned from, and drawings
 made by code of their own, damaged in known ways and run through the built engine. Means over the pictures; PSNR
-in dB, of enlargements over luminance; SSIM over luminance.
+in dB, of enlargements over luminance without a border as wide as the scale; SSIM over luminance.
 
 - The photographs are desktop pictures, reduced so that nothing of their own noise is left, and smooth: absolute
-  figures are higher than on the usual public test sets. What counts is the distance to the reference.
-- **ours** has the slider where it is best on average. Denoise: at the noise that was added, for noise with
+  figures are higher than on the usual public test sets. What counts is the distance to the reference. For pictures
+  of your own, as they are: `tools/quality --pictures FOLDER PAGE [NAME]`.
+- Drawings hold text in faces that the Graphics network has seen, too, in other words and places.
+)";
+    else
+        page << "Made by `tools/quality --pictures`: the " << source.photographs << " pictures of \""
+             << source.folder << R"(" as they are, damaged in
+known ways and run through the built engine. Means over the pictures; PSNR in dB, of enlargements over luminance
+without a border as wide as the scale; SSIM over luminance.
+
+)";
+    page
+        << R"(- **ours** has the slider where it is best on average. Denoise: at the noise that was added, for noise with
   chroma at 20. RAW: the best of 0.7, 1, 1.3 and 1.8 times the noise. Sharpen: the best of seven places
   with its own denoising at 0.01 or 0.1. Enlargement: all sliders at their least; compressed pictures: the best of
   five places. The **reference** is OpenCV's and stands at its best of a few settings, too.
@@ -40,7 +52,6 @@ in dB, of enlargements over luminance; SSIM over luminance.
   photons and readout make noise; OpenCV's edge-aware demosaicing, the white balance and sRGB's curve follow, in
   16 bit. The number is the noise's root mean square in the developed picture, in 8-bit levels. What demosaicing
   itself costs counts against all. "smeared": noise smoothed by 0.7 pixels after demosaicing, as in linear files.
-- Drawings hold text in faces that the Graphics network has seen, too, in other words and places.
 
 )";
 }
@@ -101,13 +112,13 @@ bool writePictures(QTextStream &page, const QString &folder, const std::vector<C
 } // namespace
 
 bool writePage(const QString &folder, const std::vector<Case> &cases, const std::vector<Outcome> &outcomes,
-               const std::vector<NetworkCost> &networks, int photographs) {
+               const std::vector<NetworkCost> &networks, const PageSource &source) {
     QDir().mkpath(folder);
     QSaveFile file(folder + u"/README.md"_s);
     if (!file.open(QFile::WriteOnly))
         return false;
     QTextStream page(&file);
-    writeHow(page, photographs);
+    writeHow(page, source);
     writeCases(page, cases, outcomes);
     writeNetworks(page, networks);
     if (!writePictures(page, folder, cases, outcomes))
