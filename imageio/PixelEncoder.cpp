@@ -42,6 +42,9 @@ OIIO::ImageSpec describe(const ImageData &image, const EncodePlan &plan) {
         spec.attribute("oiio:UnassociatedAlpha", 1);
     }
     spec.attribute("oiio:ColorSpace", "sRGB");
+    // Without a date the library writes the present one, and no two files of one picture would be the same.
+    // Of a type that the tag cannot have, none is written; that of the input comes with its metadata.
+    spec.attribute("DateTime", 0);
     spec.attribute("XResolution", float(plan.resolution));
     spec.attribute("YResolution", float(plan.resolution));
     spec.attribute("ResolutionUnit", plan.resolutionUnit == 3 ? "cm" : "in");
