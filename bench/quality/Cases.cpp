@@ -111,14 +111,11 @@ void addEnlarge(std::vector<Case> &cases) {
                              [scale](const cv::Mat &clean, int) { return reduced(clean, scale); }, settings,
                              reference, scale, source});
         };
-        const bool graphics = model == u"CGI"_s;
-        add(2, Source::Photographs);
-        if (!graphics)
-            add(4, Source::Photographs);
-        if (graphics || model == u"Standard V2"_s)
-            add(2, Source::Drawings);
-        if (graphics)
-            add(4, Source::Drawings);
+        for (const int scale : {2, 4})
+            add(scale, Source::Photographs);
+        for (const int scale : {2, 4})
+            if (model == u"CGI"_s || model.endsWith(u"V2"_s))
+                add(scale, Source::Drawings);
     }
     const auto settings = [](const QString &model, const QString &slider, int scale) {
         std::vector<Filter> found;

@@ -103,6 +103,8 @@ QString modelFor(const AdviceInput &input) {
     const int quality = input.statistics.jpegQuality;
     if (quality < Thresholds::PoorQuality)
         return QStringLiteral("Low Resolution");
+    if (input.statistics.drawn >= Thresholds::DrawnShare)
+        return QStringLiteral("CGI");
     const bool clean = input.findings.noiseLevel == Autopilot::Level::None &&
                        input.findings.blurLevel == Autopilot::Level::None;
     return clean && quality >= Thresholds::FineQuality ? QStringLiteral("High Fidelity V2")

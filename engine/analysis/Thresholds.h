@@ -49,6 +49,10 @@ inline constexpr double ShownBlurHigh = 0.37;
 inline constexpr double RestingNoise = 3;
 inline constexpr double RestingBlur = 0.8;
 
+/// From this share of flat colour beside edges on, a picture is a drawing or a screenshot. Photographs have
+/// 0.08 and less, drawings without dither 0.17 and more.
+inline constexpr float DrawnShare = 0.13f;
+
 // Compression: below this quality blocks and ringing are seen at 100 %.
 inline constexpr int PoorQuality = 50;
 /// From here on, compression leaves nothing to see.

@@ -10,6 +10,7 @@ set(ORVANE_ANALYSIS_SOURCES
   analysis/ChromaBlotches.cpp analysis/ChromaBlotches.h
   analysis/ClippedNoise.cpp analysis/ClippedNoise.h
   analysis/Compression.cpp analysis/Compression.h
+  analysis/Drawn.cpp analysis/Drawn.h
   analysis/EdgeWidths.cpp analysis/EdgeWidths.h
   analysis/Findings.cpp
   analysis/ImageStatistics.cpp analysis/ImageStatistics.h

@@ -1,8 +1,10 @@
 #include "Scenes.h"
 #include "engine/analysis/ImageStatistics.h"
+#include "engine/analysis/Thresholds.h"
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <numbers>
 
 using namespace Scenes;
@@ -146,6 +148,40 @@ TEST(Blur, TheKindIsToldFromTheSpectrum) {
             EXPECT_LT(std::min(turn, std::numbers::pi - turn), 0.15);
         }
     }
+}
+
+TEST(Drawn, DrawingsAreToldFromPhotographs) {
+    const auto painted = [](const std::function<float(int x, int y, int channel)> &colour) {
+        Picture picture = flat(320, 240, {0, 0, 0});
+        for (int c = 0; c < 3; ++c)
+            for (int y = 0; y < 240; ++y)
+                for (int x = 0; x < 320; ++x)
+                    picture[std::size_t(c)].at(x, y) = colour(x, y, c);
+        return picture;
+    };
+    const auto inDisc = [](int x, int y) { return (x - 160) * (x - 160) + (y - 120) * (y - 120) < 90 * 90; };
+    const Picture shapes =
+        painted([](int x, int y, int c) { return float((x / 20 * 7 + y / 16 * 5 + c * 3) % 16 + 1) / 20; });
+    const Picture stem = noisy(leaves(320, 240), 1);
+    struct Row {
+        const char *name;
+        Picture picture;
+        bool drawn;
+    };
+    const Row rows[] = {
+        {"flat shapes", shapes, true},
+        {"black on white, as text is",
+         painted([](int x, int y, int) { return x % 9 < 2 && y % 14 < 9 ? 0.0f : 1.0f; }), true},
+        {"shapes as a lens and a sensor show them", noisy(blurred(shapes, 0.7), 1), false},
+        {"a thing before a burnt-out sky", painted([&](int x, int y, int c) {
+             return inDisc(x, y) ? 0.8f * stem[std::size_t(c)].at(x, y) : 1;
+         }),
+         false},
+        {"nothing to see", flat(320, 240, {0.4f, 0.5f, 0.6f}), false},
+    };
+    for (const Row &row : rows)
+        EXPECT_EQ(measured(row.picture).drawn >= Thresholds::DrawnShare, row.drawn)
+            << row.name << ' ' << measured(row.picture).drawn;
 }
 
 TEST(Compression, QualityIsReadFromThePixels) {

@@ -1,5 +1,6 @@
 #include "Scenes.h"
 #include "engine/analysis/Analyse.h"
+#include "engine/analysis/Thresholds.h"
 
 #include <gtest/gtest.h>
 
@@ -82,8 +83,10 @@ TEST_F(Photographs, BlurredOnesMeasureWiderWithAndWithoutNoise) {
 
 TEST_F(Photographs, CleanOnesAreLeftAloneAndSpoiltOnesAreNot) {
     int touched = 0;
-    for (const Picture &picture : pictures())
+    for (const Picture &picture : pictures()) {
         touched += proposals(picture).isEmpty() ? 0 : 1;
+        EXPECT_LT(measureImage(*image(picture), {}).drawn, Thresholds::DrawnShare);
+    }
     // One of them is softer than the others by nature.
     EXPECT_LE(touched, 1);
     const QString denoise = QStringLiteral("Denoise");

@@ -105,6 +105,9 @@ TEST(SizeAdvice, ModelsAndModerateFaults) {
     const auto entry = [&](const char *category) { return ask()[QString::fromLatin1(category)].toMap(); };
     const QString model = QStringLiteral("model");
     EXPECT_EQ(entry("Enhance")[model], QStringLiteral("High Fidelity V2"));
+    s.drawn = 0.3f;
+    EXPECT_EQ(entry("Enhance")[model], QStringLiteral("CGI"));
+    s.drawn = 0.05f;
     s.jpegQuality = 40;
     EXPECT_EQ(entry("Enhance")[model], QStringLiteral("Low Resolution"));
     EXPECT_NEAR(entry("Enhance")[QStringLiteral("param3")].toDouble(), 0.6, 0.01);
