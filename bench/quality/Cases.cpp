@@ -111,11 +111,13 @@ void addEnlarge(std::vector<Case> &cases) {
                              [scale](const cv::Mat &clean, int) { return reduced(clean, scale); }, settings,
                              reference, scale, source});
         };
-        for (const int scale : {2, 4})
-            add(scale, Source::Photographs);
-        for (const int scale : {2, 4})
-            if (model == u"CGI"_s || model.endsWith(u"V2"_s))
-                add(scale, Source::Drawings);
+        // The page shows what stands second.
+        const auto addBoth = [&add](Source source) { add(2, source), add(4, source); };
+        if (model == u"CGI"_s)
+            addBoth(Source::Drawings);
+        addBoth(Source::Photographs);
+        if (model.endsWith(u"V2"_s))
+            addBoth(Source::Drawings);
     }
     const auto settings = [](const QString &model, const QString &slider, int scale) {
         std::vector<Filter> found;
