@@ -169,6 +169,6 @@ int benchAutopilot(const QStringList &arguments) {
     }
     if (!options.only.isEmpty())
         return worst;
-    worst = std::max(worst, orderOfBlurs(photographs));
+    worst = std::max({worst, orderOfBlurs(photographs), mostDrawn(photographs)});
     return std::max(worst, timeOfALargeOne(photographs.front()));
 }

@@ -28,5 +28,8 @@ double gainOf(const Look &look, EngineRun &engine);
 /// Whether neighbouring blurs of one photograph are told in the right order; 1 where one isn't.
 int orderOfBlurs(const std::vector<Photograph> &photographs);
 
+/// Whether none of the photographs would be taken for a drawing; 1 where one would.
+int mostDrawn(const std::vector<Photograph> &photographs);
+
 /// What a look at 24 megapixels takes; 1 where it takes too long.
 int timeOfALargeOne(const Photograph &photograph);

@@ -1,5 +1,7 @@
 #include "AutopilotLook.h"
 
+#include "engine/analysis/Thresholds.h"
+
 #include <QElapsedTimer>
 
 #include <opencv2/imgproc.hpp>
@@ -43,6 +45,20 @@ int orderOfBlurs(const std::vector<Photograph> &photographs) {
     }
     std::printf("blurs of 0 to 6 told in the right order: %zu of %zu pairs\n", right, all);
     return right == all ? 0 : 1;
+}
+
+int mostDrawn(const std::vector<Photograph> &photographs) {
+    float most = 0;
+    QString name;
+    for (const Photograph &photograph : photographs) {
+        const float drawn = measureImage(*toImage(photograph.clean), {}).drawn;
+        if (drawn >= most)
+            name = photograph.name;
+        most = std::max(most, drawn);
+    }
+    std::printf("flat colour beside edges, the most of any photograph: %.3f, %s (bound %.2f)\n", double(most),
+                qPrintable(name), double(Thresholds::DrawnShare));
+    return most < Thresholds::DrawnShare ? 0 : 1;
 }
 
 int timeOfALargeOne(const Photograph &photograph) {

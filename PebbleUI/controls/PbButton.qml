@@ -40,7 +40,7 @@ T.AbstractButton {
 
     // One of the style's colours, as the button stands.
     function _shade(colors: PbStateColors): color {
-        return !enabled ? colors.disabled : _lit ? colors.hovered : selected ? colors.selected : colors.normal;
+        return PbButtonStyles.shade(colors, enabled, _lit, selected);
     }
 
     padding: _small ? PebbleStyle.size.buttonPaddingCompact : PebbleStyle.size.buttonPadding

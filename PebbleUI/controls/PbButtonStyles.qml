@@ -92,6 +92,11 @@ QtObject {
         }
     }
 
+    // One colour, as a control stands. The first that holds counts: disabled, hovered, selected, normal.
+    function shade(colors: PbStateColors, isEnabled: bool, isHovered: bool, isSelected: bool): color {
+        return !isEnabled ? colors.disabled : isHovered ? colors.hovered : isSelected ? colors.selected : colors.normal;
+    }
+
     // In the order of PbButton.Type.
     readonly property list<PbButtonStyle> byType: [primary, secondary, tertiary, duotone, warning, destructive]
 }

@@ -24,7 +24,7 @@ T.AbstractButton {
 
     // One of the style's colours, as the option stands.
     function _shade(colors: PbStateColors): color {
-        return !enabled ? colors.disabled : hovered || down ? colors.hovered : selected ? colors.selected : colors.normal;
+        return PbButtonStyles.shade(colors, enabled, hovered || down, selected);
     }
 
     // The ring that shows where the keyboard is.

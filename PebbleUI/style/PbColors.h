@@ -1,8 +1,8 @@
 #pragma once
 
+#include "PbThemed.h"
+
 #include <QColor>
-#include <QObject>
-#include <QQmlEngine>
 
 // A role with its shade in the dark and in the light theme.
 #define PB_COLOR(name, dark, light)                                                                          \
@@ -14,7 +14,7 @@ public:                                                                         
 
 // The colours by role. A grey's name says how far it stands from the page, not how light it is: in the light
 // theme the greys turn round. What begins with an underscore is for the roles only.
-class PbColors : public QObject {
+class PbColors : public PbThemed {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A group of PebbleStyle")
@@ -91,20 +91,7 @@ class PbColors : public QObject {
     PB_COLOR(dialogDim, 0x99000000, 0x66171717)
 
 public:
-    using QObject::QObject;
-
-    void setDarkMode(bool darkMode) {
-        if (m_darkMode == darkMode)
-            return;
-        m_darkMode = darkMode;
-        Q_EMIT themeChanged();
-    }
-
-Q_SIGNALS:
-    void themeChanged();
-
-private:
-    bool m_darkMode = true;
+    using PbThemed::PbThemed;
 };
 
 #undef PB_COLOR

@@ -54,6 +54,10 @@ public:
     static const QString &inter();
 
 private:
-    PbTextRole *const m_heading, *const m_cta, *const m_title, *const m_body, *const m_footnote,
-                                                                                  *const m_label;
+    PbTextRole *const m_heading;
+    PbTextRole *const m_cta;
+    PbTextRole *const m_title;
+    PbTextRole *const m_body;
+    PbTextRole *const m_footnote;
+    PbTextRole *const m_label;
 };

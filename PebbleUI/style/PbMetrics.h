@@ -1,12 +1,10 @@
 #pragma once
 
+#include "PbThemed.h"
 #include "PbToken.h"
 
-#include <QObject>
-#include <QQmlEngine>
-
 // Sizes in device-independent pixels, and shares of one.
-class PbMetrics : public QObject {
+class PbMetrics : public PbThemed {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A group of PebbleStyle")
@@ -93,21 +91,8 @@ class PbMetrics : public QObject {
     PB_TOKEN(qreal, scrollBarMinimum, 0.1)
 
 public:
-    using QObject::QObject;
+    using PbThemed::PbThemed;
 
     // Wider in the light theme, where the mark has a border.
     int autoMarkWidth() const { return m_darkMode ? 1 : 3; }
-
-    void setDarkMode(bool darkMode) {
-        if (m_darkMode == darkMode)
-            return;
-        m_darkMode = darkMode;
-        Q_EMIT themeChanged();
-    }
-
-Q_SIGNALS:
-    void themeChanged();
-
-private:
-    bool m_darkMode = true;
 };
