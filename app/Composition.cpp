@@ -1,8 +1,8 @@
 #include "app/Composition.h"
 
-#include "contracts/FileBackends.h"
-#include "contracts/TEngineController.h"
 #include "engine/EngineBackend.h"
+#include "frontends/FileBackends.h"
+#include "frontends/TEngineController.h"
 #include "imageio/FileBackend.h"
 
 void joinBackends() {

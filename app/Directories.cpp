@@ -1,7 +1,7 @@
 #include "app/Directories.h"
 
 #include "app/platform/System.h"
-#include "contracts/Identity.h"
+#include "system/Identity.h"
 
 #include <QDebug>
 #include <QDir>

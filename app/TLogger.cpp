@@ -4,7 +4,7 @@
 #include "app/LogFormat.h"
 #include "app/LogQueue.h"
 #include "app/TLoggerWorker.h"
-#include "contracts/ElapsedTime.h"
+#include "system/ElapsedTime.h"
 
 #include <QDebug>
 #include <QSemaphore>

@@ -5,8 +5,8 @@
 #include "app/platform/System.h"
 #include "cli/CLIApplication.h"
 #include "cli/StatusLine.h"
-#include "contracts/AppContext.h"
-#include "contracts/Identity.h"
+#include "system/AppContext.h"
+#include "system/Identity.h"
 
 #include <QDebug>
 

@@ -1,7 +1,7 @@
 #include "StaleRun.h"
 
 #include "app/Composition.h"
-#include "contracts/TEngineController.h"
+#include "frontends/TEngineController.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>

@@ -1,6 +1,6 @@
 #include "cli/AutopilotConfiguration.h"
 
-#include "contracts/TEngineController.h"
+#include "frontends/TEngineController.h"
 #include "model/TControls.h"
 
 #include <QSettings>

@@ -8,9 +8,9 @@
 #include "cli/SettingsSummary.h"
 #include "cli/Usage.h"
 #include "cli/WriterOptions.h"
-#include "contracts/AppContext.h"
-#include "contracts/Identity.h"
-#include "contracts/SystemInfo.h"
+#include "system/AppContext.h"
+#include "system/Identity.h"
+#include "system/SystemInfo.h"
 
 #include <QDebug>
 #include <QEventLoop>

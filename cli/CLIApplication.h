@@ -5,10 +5,10 @@
 #include "cli/Interrupt.h"
 #include "cli/OutputNaming.h"
 #include "cli/Progress.h"
-#include "contracts/TEngineController.h"
-#include "contracts/TEventTracker.h"
-#include "contracts/TImageReader.h"
-#include "contracts/TImageWriter.h"
+#include "frontends/TEngineController.h"
+#include "frontends/TEventTracker.h"
+#include "frontends/TImageReader.h"
+#include "frontends/TImageWriter.h"
 #include "model/TControls.h"
 
 #include <QCoreApplication>

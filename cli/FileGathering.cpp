@@ -2,7 +2,7 @@
 
 #include "cli/Console.h"
 #include "cli/Options.h"
-#include "contracts/TImageUtils.h"
+#include "frontends/TImageUtils.h"
 
 #include <QDebug>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "cli/OutputNaming.h"
 
-#include "contracts/TImageUtils.h"
+#include "frontends/TImageUtils.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,6 +3,19 @@
 
 option(ORVANE_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
 
+# Compiling documents ahead of time takes more than half of a build. What is shipped gets it; everywhere else the engine
+# reads the documents themselves.
+if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$")
+  set(ahead_of_time ON)
+else()
+  set(ahead_of_time OFF)
+endif()
+option(ORVANE_QML_AHEAD_OF_TIME "Compile QML documents ahead of time" ${ahead_of_time})
+set(ORVANE_QML_OPTIONS)
+if(NOT ORVANE_QML_AHEAD_OF_TIME)
+  set(ORVANE_QML_OPTIONS NO_CACHEGEN)
+endif()
+
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)

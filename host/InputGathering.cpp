@@ -1,6 +1,6 @@
 #include "host/InputGathering.h"
 
-#include "contracts/TImageUtils.h"
+#include "frontends/TImageUtils.h"
 
 #include <QDirIterator>
 #include <QFileInfo>

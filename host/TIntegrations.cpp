@@ -1,6 +1,6 @@
 #include "host/TIntegrations.h"
 
-#include "contracts/TImageUtils.h"
+#include "frontends/TImageUtils.h"
 
 #include <QCoreApplication>
 #include <QDropEvent>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "contracts/ImageData.h"
-#include "contracts/Mailbox.h"
-#include "contracts/WorkQueue.h"
+#include "frontends/Mailbox.h"
+#include "frontends/WorkQueue.h"
 #include "host/InputGathering.h"
 
 #include <QObject>

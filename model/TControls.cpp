@@ -1,6 +1,6 @@
 #include "model/TControls.h"
 
-#include "contracts/TImageUtils.h"
+#include "frontends/TImageUtils.h"
 #include "model/SettingsKeys.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "contracts/TImageUtils.h"
+#include "frontends/TImageUtils.h"
 #include "model/ApplyOverrides.h"
 #include "model/SettingsKeys.h"
 #include "model/TControls.h"

@@ -1,7 +1,7 @@
-#include "contracts/OSUtils.h"
-#include "contracts/TImageUtils.h"
+#include "frontends/TImageUtils.h"
 #include "model/SettingsKeys.h"
 #include "model/TControls.h"
+#include "system/OSUtils.h"
 
 #include <QFile>
 #include <QFileInfo>

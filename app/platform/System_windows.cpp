@@ -1,6 +1,6 @@
 #include "app/platform/System.h"
 
-#include "contracts/Identity.h"
+#include "system/Identity.h"
 
 #include <QDir>
 #include <QSettings>

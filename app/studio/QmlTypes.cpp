@@ -1,15 +1,13 @@
 #include "app/studio/QmlTypes.h"
 
 #include "app/AppState.h"
-#include "contracts/AppContext.h"
-#include "contracts/ImageDataUtils.h"
-#include "contracts/OSUtils.h"
-#include "contracts/TEngineController.h"
-#include "contracts/TEventTracker.h"
-#include "contracts/TImageReader.h"
-#include "contracts/TImageUtils.h"
-#include "contracts/TImageWriter.h"
-#include "contracts/TThumbnailWriter.h"
+#include "frontends/ImageDataUtils.h"
+#include "frontends/TEngineController.h"
+#include "frontends/TEventTracker.h"
+#include "frontends/TImageReader.h"
+#include "frontends/TImageUtils.h"
+#include "frontends/TImageWriter.h"
+#include "frontends/TThumbnailWriter.h"
 #include "host/TIntegrations.h"
 #include "items/MouseListener.h"
 #include "items/PropertyLinker.h"
@@ -19,6 +17,8 @@
 #include "model/TControls.h"
 #include "model/TImageSettings.h"
 #include "presets/TPresetsManager.h"
+#include "system/AppContext.h"
+#include "system/OSUtils.h"
 
 #include <QtQml>
 

@@ -11,14 +11,14 @@
 #include "app/studio/InstanceRole.h"
 #include "app/studio/InterfaceFonts.h"
 #include "app/studio/QmlTypes.h"
-#include "contracts/AppContext.h"
-#include "contracts/Identity.h"
-#include "contracts/TMathUtils.h"
+#include "frontends/TMathUtils.h"
 #include "host/TIntegrations.h"
 #include "host/TIntercom.h"
 #include "items/WindowsThemeListener.h"
 #include "presets/TFilterGenerator.h"
 #include "presets/TFormat.h"
+#include "system/AppContext.h"
+#include "system/Identity.h"
 
 #include <QApplication>
 #include <QDebug>

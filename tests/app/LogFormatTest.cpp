@@ -1,5 +1,5 @@
 #include "app/LogFormat.h"
-#include "contracts/ElapsedTime.h"
+#include "system/ElapsedTime.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "Capture.h"
 
 #include "cli/CLIApplication.h"
-#include "contracts/AppContext.h"
-#include "contracts/FileBackends.h"
+#include "frontends/FileBackends.h"
+#include "system/AppContext.h"
 #include "tests/fakes/FakeEngine.h"
 #include "tests/fakes/FakeFiles.h"
 

@@ -1,8 +1,8 @@
 #include "PreviewStudio.h"
 
 #include "app/Composition.h"
-#include "contracts/TImageUtils.h"
-#include "contracts/TImageWriter.h"
+#include "frontends/TImageUtils.h"
+#include "frontends/TImageWriter.h"
 
 #include <QCoreApplication>
 #include <QImage>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "contracts/TEngineController.h"
-#include "contracts/TImageReader.h"
+#include "frontends/TEngineController.h"
+#include "frontends/TImageReader.h"
 #include "model/TControls.h"
 
 #include <QJSEngine>

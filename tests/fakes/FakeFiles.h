@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contracts/ImageFileBackend.h"
+#include "frontends/FileBackends.h"
 #include "tests/fakes/Hold.h"
 
 #include <QFile>

@@ -1,5 +1,5 @@
 #include "app/studio/QmlTypes.h"
-#include "contracts/Identity.h"
+#include "system/Identity.h"
 
 #include <QQmlEngine>
 #include <QSettings>

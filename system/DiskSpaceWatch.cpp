@@ -1,0 +1,22 @@
+#include "system/DiskSpaceWatch.h"
+
+#include <QStorageInfo>
+
+DiskSpaceWatch::DiskSpaceWatch()
+    : m_probe([](const QString &folder) {
+        const QStorageInfo volume(folder);
+        return volume.isValid() ? Volume{volume.displayName(), volume.bytesAvailable()} : Volume{};
+    }) {
+}
+
+std::optional<DiskSpaceWatch::Warning> DiskSpaceWatch::check(const QString &folder) {
+    const Volume volume = m_probe(folder);
+    if (volume.bytesFree < 0 || volume.bytesFree >= LowBytes)
+        return {};
+    const bool critical = volume.bytesFree < CriticalBytes;
+    bool &reported = critical ? m_criticalReported : m_lowReported;
+    if (reported)
+        return {};
+    reported = true;
+    return Warning{volume.name, critical};
+}
