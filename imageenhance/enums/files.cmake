@@ -1,4 +1,5 @@
 list(APPEND STUDIO_QML
+  enums/EditMode.qml
   enums/OptionalBoolean.qml
   enums/PreferencesPage.qml
   enums/SliderStrength.qml

@@ -10,7 +10,7 @@ Rectangle {
     required property bool pluginMode
     required property bool imageLoaded
     required property bool isLoading
-    required property int editMode // RightPanel.EditMode
+    required property int editMode // EditMode
     required property bool originalActive
     required property real fitScale
     required property real outputScale
@@ -21,7 +21,7 @@ Rectangle {
     signal addImages
     signal toggleOriginal
 
-    readonly property bool _masking: [RightPanel.EditMode.Inpaint, RightPanel.EditMode.Subject, RightPanel.EditMode.Text].includes(editMode)
+    readonly property bool _masking: [EditMode.Inpaint, EditMode.Subject, EditMode.Text].includes(editMode)
 
     implicitHeight: 48
     color: PebbleStyle.color.panelBkg
@@ -49,7 +49,7 @@ Rectangle {
             Layout.fillWidth: true
         }
         PbButton {
-            visible: _top.editMode !== RightPanel.EditMode.Crop
+            visible: _top.editMode !== EditMode.Crop
             enabled: _top.imageLoaded
             type: PbButton.Type.Tertiary
             compact: true
@@ -61,7 +61,7 @@ Rectangle {
         }
         ImageZoomControl {
             id: _zoom
-            enabled: _top.imageLoaded && !_top.isLoading && _top.editMode !== RightPanel.EditMode.Crop
+            enabled: _top.imageLoaded && !_top.isLoading && _top.editMode !== EditMode.Crop
             fitScale: _top.fitScale
             outputScale: _top.outputScale
             followsUpscale: _top.followsUpscale
