@@ -2,10 +2,13 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// The state of this session that outlives a crash or a restart: which files are open.
 class AppState : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Cannot create AppState from QML")
     Q_PROPERTY(bool isExporting READ isExporting WRITE setIsExporting NOTIFY isExportingChanged)
     Q_PROPERTY(QStringList openFiles MEMBER m_openFiles)
 

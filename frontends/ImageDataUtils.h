@@ -3,10 +3,12 @@
 #include <QObject>
 #include <QSize>
 #include <QVariantMap>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// What QML may ask of the images and metadata that it carries about without looking inside.
 class ImageDataUtils : public QObject {
     Q_OBJECT
+    QML_ELEMENT
 public:
     using QObject::QObject;
 

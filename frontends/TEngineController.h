@@ -8,6 +8,7 @@
 
 #include <QPointF>
 #include <QRectF>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <array>
 #include <deque>
@@ -25,6 +26,7 @@ using ProcessingBackendFactory = std::function<std::unique_ptr<ProcessingBackend
 /// - Destruction stops the work, waits for it, and drops its answers.
 class TEngineController : public EngineSettings {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(
         QString modelDirectory READ modelDirectory WRITE setModelDirectory NOTIFY modelDirectoryChanged)
     Q_PROPERTY(QVariantMap inputImage READ inputImage WRITE setInputImage NOTIFY inputImageChanged)

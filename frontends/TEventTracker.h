@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QVariantMap>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <functional>
 
@@ -9,6 +10,7 @@
 /// enabled and a sink was handed in.
 class TEventTracker : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(bool enabled READ enabled WRITE setEnabled NOTIFY enabledChanged)
     Q_PROPERTY(bool isDev READ isDev WRITE setDev NOTIFY isDevChanged)
     Q_PROPERTY(QString machineId READ machineId WRITE setMachineId NOTIFY machineIdChanged)

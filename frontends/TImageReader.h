@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QVariantMap>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <optional>
 
@@ -13,6 +14,7 @@
 /// then never reports. Destruction stops and joins.
 class TImageReader : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(QString filepath READ filepath WRITE setFilepath NOTIFY filepathChanged)
     Q_PROPERTY(QVariantMap imagedata READ imagedata NOTIFY imagedataChanged)
     Q_PROPERTY(QString error READ error NOTIFY errorChanged)

@@ -6,11 +6,13 @@
 #include <QStringList>
 #include <QUrl>
 #include <QVariant>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Questions about image files, paths and rectangles that need no pixels. Static from C++, an
 /// object in QML.
 class TImageUtils : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(double highConfidenceThreshold READ highConfidenceThreshold CONSTANT)
 public:
     using QObject::QObject;

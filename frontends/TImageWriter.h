@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QVariantMap>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <deque>
 
@@ -16,6 +17,7 @@
 /// writes that were cancelled.
 class TImageWriter : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(bool canWrite READ canWrite NOTIFY canWriteChanged)
 
 public:

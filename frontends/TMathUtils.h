@@ -2,10 +2,13 @@
 
 #include <QObject>
 #include <QSizeF>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Arithmetic that QML and C++ must agree on.
 class TMathUtils : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Cannot create TMathUtils from QML")
 public:
     using QObject::QObject;
 

@@ -7,12 +7,14 @@
 #include <QObject>
 #include <QSet>
 #include <QVariantList>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Writes thumbnails of the images in view into the temporary folder, the current one first. A new plan
 /// replaces the one before: pictures no longer in view are not begun. A file that can't be read is
 /// tried once.
 class TThumbnailWriter : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(QVariantList imageDatas READ imageDatas WRITE setImageDatas NOTIFY imageDatasChanged)
     Q_PROPERTY(int startIndex READ startIndex WRITE setStartIndex NOTIFY startIndexChanged)
     Q_PROPERTY(int endIndex READ endIndex WRITE setEndIndex NOTIFY endIndexChanged)

@@ -10,6 +10,7 @@
 #include <QSize>
 #include <QStringList>
 #include <QVariantMap>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 class QCoreApplication;
 class TIntercom;
@@ -19,6 +20,8 @@ class TIntercom;
 /// protocol is built in, so plug-in mode is off and its operations answer with what that means.
 class TIntegrations : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Cannot create TIntegrations from QML")
     Q_PROPERTY(bool isPluginMode READ isPluginMode NOTIFY isPluginModeChanged)
     Q_PROPERTY(PluginType pluginType READ pluginType NOTIFY isPluginModeChanged)
     Q_PROPERTY(QString pluginTrackingID READ pluginTrackingID NOTIFY isPluginModeChanged)

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 class QCoreApplication;
 
@@ -15,6 +16,8 @@ class QCoreApplication;
 /// and asks whether to go on. An instance that went on takes over when the server has gone.
 class TIntercom : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Cannot create TIntercom from QML")
     Q_PROPERTY(bool isServer READ isServer NOTIFY isServerChanged)
 public:
     explicit TIntercom(QCoreApplication *application, QObject *parent = nullptr);

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QObject>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Knows whether a mouse button is down anywhere in the object it listens to (a window). Leaving
 /// the window ends a press. Never consumes an event.
 class MouseListener : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(bool isMousePressed READ isMousePressed NOTIFY isMousePressedChanged)
     Q_PROPERTY(bool isMouseReleased READ isMouseReleased NOTIFY isMousePressedChanged)
 public:

@@ -3,11 +3,13 @@
 #include "items/PropertyTracker.h"
 
 #include <QQmlListProperty>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Keeps trackers at one value: changes of the leader reach the others, changes of a follower reach nobody.
 /// The first tracker leads until another is chosen.
 class PropertyLinker : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(QQmlListProperty<PropertyTracker> trackers READ trackers)
     Q_PROPERTY(QString active READ active NOTIFY activeChanged)
     Q_CLASSINFO("DefaultProperty", "trackers")

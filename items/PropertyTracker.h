@@ -2,12 +2,14 @@
 
 #include <QObject>
 #include <QVariant>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// One of several views of a shared value. `value` is what this view shows; while it leads, the linker
 /// hands its changes to the others, which get them through `update`. Becomes leader by itself when
 /// `activateOn` turns true.
 class PropertyTracker : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
     Q_PROPERTY(QObject *target READ target WRITE setTarget NOTIFY targetChanged)
     Q_PROPERTY(QVariant value READ value WRITE setValue NOTIFY valueChanged)

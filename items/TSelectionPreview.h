@@ -5,12 +5,14 @@
 
 #include <QQuickItem>
 #include <QVariantMap>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Draws a picture of any size in the viewport or the navigator: tiles at the reduction that the present
 /// zoom wants, over a coarse whole until they are there. `imageData` is an image map of the reader
 /// or a result of the engine, whose `requestRoi` and `scale` say where its pixels belong.
 class TSelectionPreview : public QQuickItem {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(QVariantMap imageData READ imageData WRITE setImageData NOTIFY imageDataChanged)
     Q_PROPERTY(bool showImage READ showImage WRITE setShowImage NOTIFY showImageChanged)
     Q_PROPERTY(QSizeF imageSize READ imageSize WRITE setImageSize NOTIFY geometryPropertyChanged)

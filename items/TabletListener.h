@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QObject>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Ends the press that Qt makes up from a pen: a lift of the pen does not always end it, which would
 /// leave strokes and sliders hanging.
 class TabletListener : public QObject {
     Q_OBJECT
+    QML_ELEMENT
 public:
     using QObject::QObject;
 

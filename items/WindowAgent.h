@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <vector>
 
@@ -12,6 +13,7 @@
 /// frameless-window library is not installed.
 class WindowAgent : public QObject {
     Q_OBJECT
+    QML_ELEMENT
 public:
     enum SystemButton { Unknown, WindowIcon, Help, Minimize, Maximize, Close };
     Q_ENUM(SystemButton)

@@ -8,6 +8,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QStringList>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// The open images and everything decided about each: filters, models, parameters, order, Autopilot,
 /// subjects, crop. Readers hand out maps built on each read; every operation fires its signals by hand.
@@ -18,6 +19,7 @@
 /// Lives on the GUI thread.
 class TControls : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(
         QVariantMap modelParamInfo READ modelParamInfo WRITE setModelParamInfo NOTIFY modelParamInfoChanged)
     Q_PROPERTY(QString defaultSubjectType READ defaultSubjectType WRITE setDefaultSubjectType)

@@ -5,6 +5,7 @@
 
 #include <QMap>
 #include <QObject>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Everything decided about one image. A value over shared containers: copies are cheap. Writers
 /// tell whether they changed something and mark a change then; see markChanged().
@@ -86,3 +87,12 @@ private:
 };
 
 Q_DECLARE_METATYPE(TImageSettings)
+
+/// Documents read the enumerations; the value itself does not reach them.
+namespace TImageSettingsInQml {
+Q_NAMESPACE
+QML_NAMED_ELEMENT(TImageSettings)
+QML_FOREIGN_NAMESPACE(TImageSettings)
+Q_CLASSINFO("QML.Creatable", "false")
+Q_CLASSINFO("QML.UncreatableReason", "Cannot create TImageSettings")
+} // namespace TImageSettingsInQml

@@ -4,11 +4,14 @@
 #include <QObject>
 #include <QPair>
 #include <QStringList>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Suggests the filter that people most often took next, from a table of counts. Knows nothing of the
 /// image. A filter is written as its category, a hyphen and the subject: "Sharpen-Subject", "Enhance-".
 class TFilterGenerator : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Cannot create TFilterGenerator from QML")
 public:
     using QObject::QObject;
 

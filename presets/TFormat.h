@@ -2,10 +2,13 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Values as text, in the user's locale. Stateless.
 class TFormat : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Cannot create TFormat from QML")
 public:
     using QObject::QObject;
 

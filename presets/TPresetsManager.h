@@ -4,11 +4,13 @@
 #include <QSet>
 #include <QStringList>
 #include <QVariantMap>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Presets as JSON files, one each, in a directory. Neither interprets nor checks what they hold. The
 /// names are read when the directory is set; later changes by other programs are not noticed.
 class TPresetsManager : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(QSet<QString> presets READ presets NOTIFY presetsChanged)
     Q_PROPERTY(QString presetsDirectory READ presetsDirectory WRITE setPresetsDirectory NOTIFY
                    presetsDirectoryChanged)

@@ -2,11 +2,14 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Constants and folders of this run, the same for native code and QML. Built after the
 /// application's identity is set, because its name and the setting `developerMode` are read then.
 class AppContext : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Cannot create AppContext from QML")
     Q_PROPERTY(QString appName READ appName CONSTANT)
     Q_PROPERTY(QString cname READ cname CONSTANT)
     Q_PROPERTY(QString appVersion READ appVersion CONSTANT)

@@ -5,10 +5,12 @@
 #include <QRect>
 #include <QString>
 #include <QStringList>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// Services of the operating system, for QML and C++.
 class OSUtils : public QObject {
     Q_OBJECT
+    QML_ELEMENT
 public:
     using QObject::QObject;
 

@@ -10,7 +10,6 @@
 #include "app/studio/GuiWatch.h"
 #include "app/studio/InstanceRole.h"
 #include "app/studio/InterfaceFonts.h"
-#include "app/studio/QmlTypes.h"
 #include "frontends/TMathUtils.h"
 #include "host/TIntegrations.h"
 #include "host/TIntercom.h"
@@ -62,14 +61,13 @@ void useOpenGl() {
     qInfo() << "Using Graphics API Index" << int(QQuickWindow::graphicsApi());
 }
 
-/// The interface, from the registration of its types to the end of the event loop.
+/// The interface, from its font to the end of the event loop.
 int runInterface(QApplication &application, TIntegrations &integrations, TIntercom &intercom,
                  const Directories::Surroundings &surroundings, const QString &logDirectory,
                  AppState &appState) {
     setInterfaceFont();
     setInterfacePalette();
     qInfo() << "Initializing QML engine";
-    registerQmlTypes();
     if (QSettings().value(u"developerMode"_s, false).toBool())
         qInfo() << "Developer mode is enabled!";
 
@@ -79,7 +77,6 @@ int runInterface(QApplication &application, TIntegrations &integrations, TInterc
     TFormat format;
     TMathUtils mathUtils;
     QQmlApplicationEngine engine;
-    registerWindowAgent(engine);
     engine.addImportPath(u":/"_s);
     engine.addImportPath(u":/PebbleUI"_s);
 

@@ -1,4 +1,3 @@
-#include "app/studio/QmlTypes.h"
 #include "system/Identity.h"
 
 #include <QQmlEngine>
@@ -41,14 +40,12 @@ class Setup : public QObject {
 
 public Q_SLOTS:
     void applicationAvailable() {
-        registerQmlTypes();
         // Settings of the tests' own: nobody's are read or written.
         Identity::setOnApplication();
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
         qmlRegisterType<LogLines>("LogLines", 1, 0, "LogLines");
     }
     void qmlEngineAvailable(QQmlEngine *engine) {
-        registerWindowAgent(*engine);
         engine->addImportPath(QStringLiteral(":/"));
         engine->addImportPath(QStringLiteral(":/PebbleUI"));
     }
