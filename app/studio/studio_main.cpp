@@ -11,6 +11,7 @@
 #include "app/studio/InstanceRole.h"
 #include "app/studio/InterfaceFonts.h"
 #include "app/studio/QmlTypes.h"
+#include "frontends/PreferenceTable.h"
 #include "frontends/TMathUtils.h"
 #include "host/TIntegrations.h"
 #include "host/TIntercom.h"
@@ -70,7 +71,7 @@ int runInterface(QApplication &application, TIntegrations &integrations, TInterc
     setInterfacePalette();
     qInfo() << "Initializing QML engine";
     registerQmlTypes();
-    if (QSettings().value(u"developerMode"_s, false).toBool())
+    if (storedPreference(QSettings(), u"developerMode").toBool())
         qInfo() << "Developer mode is enabled!";
 
     const QString installRoot = Directories::installRoot(surroundings);
@@ -150,7 +151,7 @@ int main(int argc, char **argv) {
     const QSettings settings(Identity::organization(), Identity::productName());
     reportSettingsStore(settings);
     if (isCrashReporterBypassed(qgetenv("ORVANE_BYPASS_CRASHPAD"), [&settings] {
-            return settings.value(u"allowEventTracking"_s, true).toBool();
+            return storedPreference(settings, u"allowEventTracking").toBool();
         }))
         qInfo() << "Bypassing crashpad initialization";
     else

@@ -83,7 +83,8 @@ TEST_F(EngineRuns, WindowAsksWithItsOwnInputAndParams) {
     controller->procRequest(QRectF(0, 0, 1, 1), {});
     QSettings().remove(u"hotPixelCorrection"_s);
     ASSERT_TRUE(idle());
-    EXPECT_TRUE(engine->requests().back().hotPixelCorrection) << "as the store says when the run is asked for";
+    EXPECT_TRUE(engine->requests().back().hotPixelCorrection)
+        << "as the store says when the run is asked for";
 }
 
 TEST_F(EngineRuns, OneAnswerForEachRequestInOrder) {

@@ -27,8 +27,6 @@ protected:
     }
     ~Settings() override { qInstallMessageHandler(m_before); }
 
-    static void store(const QString &key, const QVariant &value) { QSettings().setValue(key, value); }
-
     static inline QStringList s_warnings;
 
 private:
@@ -80,49 +78,54 @@ QVariantList damaged(const Preference &p) {
 
 } // namespace
 
-TEST_F(Settings, EveryPreference) {
-    for (const Preference &p : preferenceTable()) {
-        SCOPED_TRACE(p.key.toStdString());
-        const QByteArray name = p.key.toLatin1(), fed = p.engineProperty.toLatin1();
-        const QVariant value = another(p);
-        QSettings().clear();
-        TEngineController engine;
-        {
-            MainSettings first;
-            EXPECT_EQ(first.property(name), p.initial);
-            EXPECT_TRUE(QSettings().contains(p.key)) << "others read the store itself";
-            if (!fed.isEmpty()) {
-                EXPECT_EQ(engine.property(fed), p.initial) << "the engine starts with the same default";
-            }
-            first.feed(&engine);
-            first.setProperty(name, value);
-            EXPECT_EQ(QSettings().value(p.key), value) << "stored at once";
-            if (!fed.isEmpty()) {
-                EXPECT_EQ(engine.property(fed), value);
+TEST_F(Settings, EveryPreferenceIsStoredAndReachesTheEngine) {
+    const auto check = [](const MainSettings &settings, const TEngineController &engine, auto expected) {
+        for (const Preference &p : preferenceTable()) {
+            SCOPED_TRACE(p.key.toStdString());
+            const QVariant value = expected(p);
+            EXPECT_EQ(settings.property(p.key.toLatin1()), value);
+            EXPECT_EQ(QSettings().value(p.key), value) << "at once, for who reads the store itself";
+            EXPECT_EQ(storedPreference(QSettings(), p.key), value);
+            if (!p.engineProperty.isEmpty()) {
+                EXPECT_EQ(engine.property(p.engineProperty.toLatin1()), value);
             }
         }
-        TEngineController next;
-        MainSettings second;
-        second.feed(&next);
-        EXPECT_EQ(second.property(name), value) << "after a restart";
-        if (!fed.isEmpty()) {
-            EXPECT_EQ(next.property(fed), value);
-        }
-        EXPECT_EQ(storedPreference(QSettings(), p.key), value);
-        EXPECT_EQ(s_warnings, QStringList());
+    };
+    TEngineController engine, next;
+    {
+        MainSettings first;
+        check(first, engine, [](const Preference &p) { return p.initial; });
+        first.feed(&engine);
+        for (const Preference &p : preferenceTable())
+            first.setProperty(p.key.toLatin1(), another(p));
+        check(first, engine, another);
+    }
+    MainSettings restarted;
+    restarted.feed(&next, {u"deviceId"_s});
+    EXPECT_EQ(next.deviceId(), -2) << "what its owner binds";
+    next.setDeviceId(restarted.property("deviceId").toInt());
+    check(restarted, next, another);
+    EXPECT_EQ(s_warnings, QStringList());
+}
 
-        for (const QVariant &spoilt : damaged(p)) {
-            SCOPED_TRACE(spoilt.toString().toStdString());
-            store(p.key, spoilt);
-            EXPECT_EQ(storedPreference(QSettings(), p.key), p.initial);
-            EXPECT_EQ(MainSettings().property(name), p.initial);
-            EXPECT_EQ(
-                s_warnings,
-                QStringList("The setting %1 held no valid value; it has its default now."_L1.arg(p.key)));
-            s_warnings.clear();
-            MainSettings again;
-            EXPECT_EQ(s_warnings, QStringList()) << "the damage is gone from the store";
+TEST_F(Settings, DamageGivesWayToTheDefault) {
+    MainSettings();
+    for (qsizetype round = 0; round < 5; ++round) {
+        QStringList expected;
+        for (const Preference &p : preferenceTable()) {
+            if (const QVariantList spoilt = damaged(p); round < spoilt.size()) {
+                QSettings().setValue(p.key, spoilt.at(round));
+                EXPECT_EQ(storedPreference(QSettings(), p.key), p.initial) << p.key.toStdString();
+                expected << "The setting %1 held no valid value; it has its default now."_L1.arg(p.key);
+            }
         }
+        MainSettings settings;
+        EXPECT_EQ(s_warnings, expected);
+        for (const Preference &p : preferenceTable())
+            EXPECT_EQ(settings.property(p.key.toLatin1()), p.initial) << p.key.toStdString();
+        s_warnings.clear();
+        MainSettings again;
+        EXPECT_EQ(s_warnings, QStringList()) << "the damage is gone from the store";
     }
 }
 
