@@ -7,22 +7,19 @@
 class QSettings;
 class TControls;
 class TEngineController;
+struct Preference;
 
-/// One of the user's settings that steer Autopilot. The type of `fallback` (text, whole number,
-/// float or list of texts) is the type that the stored value is read as.
+/// One of the preferences that steer Autopilot in a batch run.
 struct AutopilotSetting {
-    QString key;
-    QVariant fallback;
-    void (*apply)(TEngineController &, const QVariant &);
-    QString label;               ///< its words in the summary
-    QVariant shownFallback = {}; ///< what the summary shows when nothing is stored; invalid: `fallback`
+    const Preference &preference;
+    QString label; ///< its words in the summary
 };
 
 /// In the order of reading, which is the summary's order as well.
 const QList<AutopilotSetting> &autopilotSettings();
 
-/// The stored value, or the fallback, in the fallback's type.
-QVariant readSetting(const QSettings &settings, const QString &key, const QVariant &fallback);
+/// What the console finds stored, or `fallback`.
+QVariant readSetting(const QSettings &settings, const Preference &preference, const QVariant &fallback);
 
 QString defaultSubjectType(const QSettings &settings);
 

@@ -8,6 +8,7 @@
 #include "cli/SettingsSummary.h"
 #include "cli/Usage.h"
 #include "cli/WriterOptions.h"
+#include "frontends/PreferenceTable.h"
 #include "system/AppContext.h"
 #include "system/Identity.h"
 #include "system/SystemInfo.h"
@@ -124,7 +125,7 @@ void CLIApplication::waitForModels(const QString &modelDirectory) {
 }
 
 void CLIApplication::startTracking(const AppContext &context) {
-    m_tracker.setEnabled(QSettings().value(u"allowEventTracking"_s, true).toBool());
+    m_tracker.setEnabled(storedPreference(QSettings(), u"allowEventTracking").toBool());
     m_tracker.setDev(context.isDev());
     m_tracker.setMachineId(aiutils::SystemInfo::GetInstance(true).getMachineId());
     m_tracker.track(u"CLI Started"_s,

@@ -2,6 +2,7 @@
 
 #include "cli/AutopilotConfiguration.h"
 #include "cli/WriterOptions.h"
+#include "frontends/PreferenceTable.h"
 
 #include <QSettings>
 
@@ -13,8 +14,8 @@ QString shown(const QVariant &value) {
     switch (value.typeId()) {
     case QMetaType::QStringList:
         return value.toStringList().join(u',');
-    case QMetaType::Float:
-        return QString::number(double(value.toFloat()), 'g', 6);
+    case QMetaType::Double:
+        return QString::number(value.toDouble(), 'g', 6);
     case QMetaType::Bool:
         return value.toBool() ? u"1"_s : u"0"_s;
     default:
@@ -57,10 +58,8 @@ void addApplicationSettings(Lines &lines, const BatchOptions &options, qsizetype
 void addAutopilotSettings(Lines &lines, const QSettings &settings) {
     lines.heading(u"Autopilot settings:"_s);
     lines.item(u"Auto apply filters"_s, u"true (Forced)"_s);
-    for (const AutopilotSetting &setting : autopilotSettings()) {
-        const QVariant &fallback = setting.shownFallback.isValid() ? setting.shownFallback : setting.fallback;
-        lines.item(setting.label, readSetting(settings, setting.key, fallback));
-    }
+    for (const auto &[preference, label] : autopilotSettings())
+        lines.item(label, readSetting(settings, preference, preference.consoleShown));
     lines.item(u"Default Subject Type"_s, defaultSubjectType(settings));
 }
 

@@ -47,6 +47,7 @@ struct ProcRequest {
     bool full = false;
     bool exporting = false;
     bool exportIsDng = false;
+    bool hotPixelCorrection = false; ///< takes lone bright pixels out of a denoised camera file
 };
 
 /// `image` covers `region` of the input at `scale` output pixels per input pixel.

@@ -2,6 +2,7 @@
 
 #include "frontends/EngineRequests.h"
 #include "frontends/NoEngine.h"
+#include "frontends/PreferenceTable.h"
 #include "frontends/ProgressGate.h"
 
 #include <QDebug>
@@ -64,13 +65,20 @@ void TEngineController::setModelDirectory(const QString &directory) {
             if (stop.stop_requested())
                 return;
             if (catalogue.isEmpty())
-                qWarning().noquote() << "[PROC] No models found in" << directory;
+                warnOfMissingModels();
             m_modelParamInfo = catalogue;
             Q_EMIT modelParamInfoChanged();
         });
     });
     if (changed)
         Q_EMIT modelDirectoryChanged();
+}
+
+// Models come with the program: who waits for a download to bring them is told that none will.
+void TEngineController::warnOfMissingModels() const {
+    qWarning().noquote() << "[PROC] No models found in" << m_modelDirectory;
+    if (storedPreference(QSettings(), u"modelDownloads").toBool())
+        qWarning() << "[PROC] This version has no models to download; they come with its installation";
 }
 
 void TEngineController::setInputImage(const QVariantMap &image) {
@@ -105,10 +113,17 @@ void TEngineController::procRequest(const QRectF &region, const QStringList &fil
 void TEngineController::startProc(const QVariantMap &image, const QRect &region, const QVariantMap &params,
                                   const QStringList &filterOrder, bool full) {
     cancelProc();
-    const ProcRequest request{
-        EngineRequests::input(image), region, params, filterOrder, full, exporting(), exportIsDng()};
+    const QSettings settings;
+    const ProcRequest request{EngineRequests::input(image),
+                              region,
+                              params,
+                              filterOrder,
+                              full,
+                              exporting(),
+                              exportIsDng(),
+                              storedPreference(settings, u"hotPixelCorrection").toBool()};
     QStringList watchedFolders;
-    if (QSettings().value(QStringLiteral("checkDiskSpace"), true).toBool())
+    if (storedPreference(settings, u"checkDiskSpace").toBool())
         watchedFolders = {QDir::tempPath(), m_modelDirectory};
     auto job = [this, engine = backend(), request, watchedFolders](const std::stop_token &stop) {
         ProcResult result;

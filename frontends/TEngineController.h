@@ -136,6 +136,7 @@ private:
     void settleRun(const ProcRequest &request, const ProcResult &result);
     void settleAnalysis(const EngineInput &input, const AutopilotAnswer &answer);
     void select(Selection kind, SelectionWork work);
+    void warnOfMissingModels() const;
     void warnOfLowSpace(const QStringList &folders);
     void fail(const QString &what, const QString &path, const QString &why);
     void setProgress(double progress);

@@ -51,6 +51,17 @@ void TSelectionPreview::setShowImage(bool show) {
     Q_EMIT showImageChanged();
 }
 
+void TSelectionPreview::setSrgbFallback(bool on) {
+    if (on == m_srgbFallback)
+        return;
+    m_srgbFallback = on;
+    m_loader.setTakenForSrgb(on);
+    makeTilesAnew();
+    m_imageChanged = true;
+    changed();
+    Q_EMIT srgbFallbackChanged();
+}
+
 void TSelectionPreview::setImageSize(const QSizeF &size) {
     if (size == m_geometry.imageSize)
         return;
@@ -146,8 +157,12 @@ void TSelectionPreview::geometryChange(const QRectF &now, const QRectF &before) 
     changed();
 }
 
+// The scene graph is going.
 void TSelectionPreview::releaseResources() {
-    // The scene graph is going; every tile has to be made again for the next one.
+    makeTilesAnew();
+}
+
+void TSelectionPreview::makeTilesAnew() {
     const ImageRef image = m_loader.image();
     m_loader.setImage(nullptr);
     m_loader.setImage(image);

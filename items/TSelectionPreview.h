@@ -15,6 +15,8 @@ class TSelectionPreview : public QQuickItem {
     QML_ELEMENT
     Q_PROPERTY(QVariantMap imageData READ imageData WRITE setImageData NOTIFY imageDataChanged)
     Q_PROPERTY(bool showImage READ showImage WRITE setShowImage NOTIFY showImageChanged)
+    /// Takes every picture for an sRGB one, whatever its profile says.
+    Q_PROPERTY(bool srgbFallback READ srgbFallback WRITE setSrgbFallback NOTIFY srgbFallbackChanged)
     Q_PROPERTY(QSizeF imageSize READ imageSize WRITE setImageSize NOTIFY geometryPropertyChanged)
     Q_PROPERTY(QRectF cropRect READ cropRect WRITE setCropRect NOTIFY geometryPropertyChanged)
     /// Radians, clockwise.
@@ -34,6 +36,8 @@ public:
     void setImageData(const QVariantMap &data);
     bool showImage() const { return m_showImage; }
     void setShowImage(bool show);
+    bool srgbFallback() const { return m_srgbFallback; }
+    void setSrgbFallback(bool on);
     QSizeF imageSize() const { return m_geometry.imageSize; }
     void setImageSize(const QSizeF &size);
     QRectF cropRect() const { return m_geometry.cropRect; }
@@ -51,6 +55,7 @@ public:
 Q_SIGNALS:
     void imageDataChanged();
     void showImageChanged();
+    void srgbFallbackChanged();
     void geometryPropertyChanged();
     void completeChanged();
 
@@ -70,6 +75,7 @@ private:
     };
     View currentView() const;
     void followWindow();
+    void makeTilesAnew();
     void changed();
 
     QVariantMap m_imageData;
@@ -81,6 +87,7 @@ private:
     double m_startX = 0;
     double m_endX = 1;
     bool m_showImage = true;
+    bool m_srgbFallback = false;
     bool m_complete = false;
     bool m_imageChanged = false;
 };

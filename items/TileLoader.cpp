@@ -47,11 +47,12 @@ void TileLoader::startNext() {
         m_waiting.erase(m_waiting.begin());
         m_running.insert(key);
         const quint64 generation = m_generation->load();
+        const QColorSpace display = m_takenForSrgb ? QColorSpace() : QColorSpace(QColorSpace::SRgb);
         // The object outlives its tasks: the destructor waits for them.
-        m_threads.start([this, key, image = m_image, current = m_generation, generation] {
+        m_threads.start([this, key, image = m_image, current = m_generation, generation, display] {
             if (current->load() != generation)
                 return;
-            QImage tile = renderTile(*image, key, QColorSpace(QColorSpace::SRgb));
+            QImage tile = renderTile(*image, key, display);
             QMetaObject::invokeMethod(
                 this,
                 [this, key, generation, tile = std::move(tile)] {

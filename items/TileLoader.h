@@ -22,6 +22,9 @@ public:
 
     void setImage(const ImageRef &image);
     const ImageRef &image() const { return m_image; }
+    /// Whether samples go to the screen as they are, whatever profile the picture has. Of the next picture
+    /// set.
+    void setTakenForSrgb(bool taken) { m_takenForSrgb = taken; }
 
     /// Asks for these, most urgent first; what was asked for before and has not begun is dropped.
     void want(const std::vector<TileKey> &keys);
@@ -37,6 +40,7 @@ private:
     void startNext();
 
     ImageRef m_image;
+    bool m_takenForSrgb = false;
     QThreadPool m_threads;
     std::vector<TileKey> m_waiting;
     std::set<TileKey> m_running;

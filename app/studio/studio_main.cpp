@@ -10,6 +10,7 @@
 #include "app/studio/GuiWatch.h"
 #include "app/studio/InstanceRole.h"
 #include "app/studio/InterfaceFonts.h"
+#include "frontends/PreferenceTable.h"
 #include "frontends/TMathUtils.h"
 #include "host/TIntegrations.h"
 #include "host/TIntercom.h"
@@ -68,7 +69,7 @@ int runInterface(QApplication &application, TIntegrations &integrations, TInterc
     setInterfaceFont();
     setInterfacePalette();
     qInfo() << "Initializing QML engine";
-    if (QSettings().value(u"developerMode"_s, false).toBool())
+    if (storedPreference(QSettings(), u"developerMode").toBool())
         qInfo() << "Developer mode is enabled!";
 
     const QString installRoot = Directories::installRoot(surroundings);
@@ -147,7 +148,7 @@ int main(int argc, char **argv) {
     const QSettings settings(Identity::organization(), Identity::productName());
     reportSettingsStore(settings);
     if (isCrashReporterBypassed(qgetenv("ORVANE_BYPASS_CRASHPAD"), [&settings] {
-            return settings.value(u"allowEventTracking"_s, true).toBool();
+            return storedPreference(settings, u"allowEventTracking").toBool();
         }))
         qInfo() << "Bypassing crashpad initialization";
     else

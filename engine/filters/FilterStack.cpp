@@ -1,6 +1,7 @@
 #include "engine/filters/FilterStack.h"
 
 #include "engine/filters/Filters.h"
+#include "engine/filters/HotPixelStage.h"
 
 namespace {
 
@@ -45,6 +46,10 @@ FilterRecord readRecord(const QString &name, const QVariantMap &controls) {
     return record;
 }
 
+bool denoises(const ModelDefinition &definition) {
+    return definition.operation == QStringLiteral("denoise");
+}
+
 } // namespace
 
 bool hasEnabledFilter(const ProcRequest &request) {
@@ -80,8 +85,11 @@ QString buildFilterStack(const ProcRequest &request, const ModelCatalogue &catal
         Made made = Filters::make({values, statistics, chain.outputSize(), networks, log});
         if (!made.error.isEmpty())
             return made.error;
-        if (made.stage)
-            chain.append(std::move(made.stage), values.key());
+        if (!made.stage)
+            continue;
+        chain.append(std::move(made.stage), values.key());
+        if (request.hotPixelCorrection && request.input.isRaw && denoises(*definition))
+            chain.append(makeHotPixelStage(), QByteArrayLiteral("hot pixels"));
     }
     return {};
 }

@@ -38,10 +38,9 @@ QtObject {
 
     // The first thing of a session.
     function listen(): void {
-        settings.repair();
         mouseListener.listenTo(appWindow);
         tabletListener.listenTo(appWindow);
-        settings.dropVanishedFolders(path => osUtils.fileExists(path));
+        settings.dropVanishedFolders();
     }
 
     function imageOpened(): void {

@@ -44,19 +44,11 @@ TEngineController {
         };
     }
 
-    Component.onCompleted: resetAll()
-    deviceId: settings.deviceId
-    overlayColor: settings.maskOverlayColor
-    recommendFilters: settings.autopilotRecommendFilters
-    faceDetection: settings.autopilotFaceDetect
-    faceParts: settings.faceParts
-    faceStrength: settings.autopilotFaceStrength
-    sharpeningModel: settings.autopilotSharpeningModel
-    sharpenBlurs: settings.autopilotSharpenBlurs
-    sharpenStrength: settings.autopilotSharpenStrength
-    useNeuralEngine: settings.useNeuralEngine
-    upscalingModel: settings.autopilotUpscalingModel
-    enableDownscaling: settings.autopilotEnableDownscaling
+    Component.onCompleted: {
+        settings.feed(_top, ["upscalingType"]);
+        resetAll();
+    }
+    resizingSupported: !integrations.isPluginMode || integrations.resizingSupported
     // A host that can't take another size gets none.
     upscalingType: {
         const type = settings.autopilotUpscalingType;
@@ -64,23 +56,4 @@ TEngineController {
             return type;
         return type === "scale" && settings.autopilotUpscalingFactor === 1 ? "scale" : "none";
     }
-    upscalingFactor: settings.autopilotUpscalingFactor
-    upscalingParam1Strength: settings.autopilotUpscalingParam1Strength
-    upscalingParam2Strength: settings.autopilotUpscalingParam2Strength
-    resizingSupported: !integrations.isPluginMode || integrations.resizingSupported
-    resolutionUnit: settings.autopilotResolutionUnit
-    resolution: settings.autopilotDefaultResolution
-    denoisingModel: settings.autopilotDenoisingModel
-    denoiseLevels: settings.autopilotDenoiseLevels
-    denoiseStrength: settings.autopilotDenoiseStrength
-    denoisingRawModel: settings.autopilotDenoisingRawModel
-    denoiseRawLevels: settings.autopilotDenoiseRawLevels
-    denoiseRawStrength: settings.autopilotDenoiseRawStrength
-    conflictResolutionPref: settings.autopilotConflictResolutionPref
-    exposureStrength: settings.autopilotNonRAWExposureStrength
-    exposureRAWStrength: settings.autopilotRAWExposureStrength
-    temperatureValue: settings.autopilotTemperatureValue
-    opacityValue: settings.autopilotOpacityValue
-    textModel: settings.autopilotTextModel
-    textStrength: settings.autopilotTextStrength
 }

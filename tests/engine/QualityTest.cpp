@@ -131,3 +131,35 @@ TEST(Quality, EdgesGetNoHalos) {
         }
     }
 }
+
+/// Lone bright spots go from a denoised camera file; what a photograph shows, a line or an edge as well,
+/// stays.
+TEST(Quality, HotPixelsAreCorrectedOnRequest) {
+    const auto scene = Pictures::scene(192, 160, 3, SampleType::UInt16);
+    const auto spots = [](int x, int y) { return x % 24 == 7 && y % 20 == 11; };
+    const auto hot = Pictures::changed(*scene, [&](double v, int x, int y, int c) {
+        return spots(x, y) && c != 1 ? std::min(1.0, v + 0.6) : v;
+    });
+    Engine engine;
+    const auto run = [&](const ImageRef &image, bool correct, bool raw) {
+        ProcRequest request = Engine::request(image);
+        Engine::add(request, u"RAW"_s, u"RAW"_s, u"RAW Standard"_s, {});
+        request.hotPixelCorrection = correct;
+        request.input.isRaw = raw;
+        return engine.run(request).image;
+    };
+    const auto clean = run(scene, false, true), before = run(hot, false, true), after = run(hot, true, true);
+    double worstBefore = 0, worstAfter = 0;
+    for (int y = 11; y < 160; y += 20) {
+        for (int x = 7; x < 192; x += 24) {
+            const double wanted = Pictures::sample(*clean, x, y, 0);
+            worstBefore = std::max(worstBefore, Pictures::sample(*before, x, y, 0) - wanted);
+            worstAfter = std::max(worstAfter, Pictures::sample(*after, x, y, 0) - wanted);
+        }
+    }
+    EXPECT_GT(worstBefore, 0.3);
+    EXPECT_LT(worstAfter, 0.1);
+    EXPECT_LT(Pictures::difference(*after, *clean), 0.35 * Pictures::difference(*before, *clean));
+    EXPECT_LT(Pictures::difference(*run(scene, true, true), *clean), 0.1) << "a picture without them stays";
+    EXPECT_EQ(Pictures::mismatch(*run(hot, true, false), *before, 0, 0), "") << "other files are left alone";
+}

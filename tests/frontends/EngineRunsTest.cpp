@@ -78,6 +78,13 @@ TEST_F(EngineRuns, WindowAsksWithItsOwnInputAndParams) {
     EXPECT_EQ(request.params.value(u"changesCount"_s).toInt(), 3) << "taken by value";
     EXPECT_EQ(request.region, QRect(0, 1, 3, 3)) << "covers the region asked for";
     EXPECT_EQ(request.filterOrder, QStringList(u"Sharpen"_s));
+    EXPECT_FALSE(request.hotPixelCorrection);
+    QSettings().setValue(u"hotPixelCorrection"_s, true);
+    controller->procRequest(QRectF(0, 0, 1, 1), {});
+    QSettings().remove(u"hotPixelCorrection"_s);
+    ASSERT_TRUE(idle());
+    EXPECT_TRUE(engine->requests().back().hotPixelCorrection)
+        << "as the store says when the run is asked for";
 }
 
 TEST_F(EngineRuns, OneAnswerForEachRequestInOrder) {

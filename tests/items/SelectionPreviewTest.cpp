@@ -1,6 +1,7 @@
 #include "items/TSelectionPreview.h"
 
 #include <QColor>
+#include <QColorSpace>
 #include <QQuickWindow>
 #include <QTest>
 
@@ -88,6 +89,16 @@ TEST_F(Preview, CropTurnAndRegionPlaceThePixels) {
     EXPECT_EQ(pixel(52, 52), Red);
     EXPECT_EQ(pixel(72, 52), Green);
     EXPECT_EQ(pixel(20, 20), Blue) << "outside the processed region nothing is drawn";
+}
+
+TEST_F(Preview, ProfileIsLeftAsideOnRequest) {
+    const auto image = quarters(400, 400);
+    image->setIccProfile(QColorSpace(QColorSpace::AdobeRgb).iccProfile());
+    show(image);
+    m_item->setImageSize({400, 400});
+    EXPECT_NE(pixel(20, 20), Red);
+    m_item->setSrgbFallback(true);
+    EXPECT_EQ(pixel(20, 20), Red) << "at once, on the picture that is shown";
 }
 
 TEST_F(Preview, ViewportCutsAndHidingClears) {

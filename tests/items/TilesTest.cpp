@@ -97,6 +97,7 @@ TEST(TileRenderer, PicturesAreShownInTheirOwnColours) {
     const QColor converted = at(renderTile(*image, {0, 0, 0}, QColorSpace::SRgb), 0, 0);
     EXPECT_EQ(plain.red(), 128);
     EXPECT_LT(converted.red(), 40) << "a wide green has little red on the screen";
+    EXPECT_EQ(at(renderTile(*image, {0, 0, 0}, QColorSpace()), 0, 0), plain) << "taken for sRGB";
     image->setIccProfile("not a profile");
     EXPECT_EQ(at(renderTile(*image, {0, 0, 0}, QColorSpace::SRgb), 0, 0), plain);
 }

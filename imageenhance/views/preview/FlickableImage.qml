@@ -17,6 +17,7 @@ Item {
     property rect cropRect: Qt.rect(0, 0, 1, 1)
     property real cropRotation: 0 // radians
     property bool showImage: true
+    property bool srgbFallback: false
     property bool interactive: true
     property bool mouseWheelEnabled: true
     property bool animateMovement: true
@@ -88,6 +89,7 @@ Item {
             width: _flick.contentWidth
             height: _flick.contentHeight
             imageData: _top.imageData
+            srgbFallback: _top.srgbFallback
             imageSize: _top.actualImageSize
             cropRect: _top.cropRect
             imageRotation: _top.cropRotation

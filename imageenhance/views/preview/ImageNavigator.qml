@@ -14,6 +14,7 @@ Item {
     required property rect cropRect
     required property real cropRotation
     required property bool frameShown
+    required property bool srgbFallback
 
     readonly property int maxHeight: 150
     readonly property rect fillRect: _private.rect(Viewport.navigatorRect(_private.cropped, width, maxHeight))
@@ -30,6 +31,7 @@ Item {
         width: _top.fillRect.width
         height: _top.fillRect.height
         imageData: _top.imageData
+        srgbFallback: _top.srgbFallback
         imageSize: _top.imageSize
         cropRect: _top.cropRect
         imageRotation: _top.cropRotation

@@ -80,6 +80,7 @@ Item {
         zoomControl: _controls.zoomControl
         panKeyHeld: _top.panKeyHeld
         originalRequested: _top.originalRequested
+        srgbFallback: _top.settings.srgbFallback
         onViewChanged: _private.requestProc()
         onRightClicked: point => _top.showRightClickMenuAtPoint(point)
         onFocusWanted: _top.focusWanted()
@@ -90,6 +91,7 @@ Item {
 
         width: _top.navigatorWidth
         imageData: _source.input
+        srgbFallback: _top.settings.srgbFallback
         picture: _stage.pictures.original
         imageSize: _source.inputSize
         cropRect: _stage.previewState.shownCrop

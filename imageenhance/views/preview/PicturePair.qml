@@ -13,6 +13,7 @@ Item {
     required property var procResult
     required property real pixelRatio
     required property bool panKeyHeld
+    required property bool srgbFallback
 
     readonly property alias original: _original
     readonly property alias preview: _preview
@@ -46,6 +47,7 @@ Item {
         cropRect: _top.previewState.shownCrop
         cropRotation: _top.previewState.shownRotation
         viewport: _top
+        srgbFallback: _top.srgbFallback
         showImage: !_top.previewState.previewShown
         mouseWheelEnabled: !_top.previewState.cropping
         panKeyHeld: _top.panKeyHeld
@@ -66,6 +68,7 @@ Item {
         cropRect: _top.previewState.shownCrop
         cropRotation: _top.previewState.shownRotation
         viewport: _top
+        srgbFallback: _top.srgbFallback
         animateMovement: false
         showImage: _top.previewState.previewShown
         mouseWheelEnabled: !_top.previewState.cropping

@@ -11,6 +11,7 @@ Item {
     required property ImageZoomControl zoomControl
     required property bool panKeyHeld
     required property bool originalRequested
+    required property bool srgbFallback
 
     readonly property alias pictures: _pictures
     readonly property alias previewState: _state
@@ -33,6 +34,7 @@ Item {
         procResult: _top.source.result
         pixelRatio: _top.pixelRatio
         panKeyHeld: _top.panKeyHeld
+        srgbFallback: _top.srgbFallback
         onRightClicked: point => _top.rightClicked(point)
         onFocusWanted: _top.focusWanted()
     }
