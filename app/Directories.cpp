@@ -39,19 +39,19 @@ bool canBeWritten(const QString &folder) {
 
 namespace Directories {
 
-Surroundings Surroundings::ofProcess() {
+Environment Environment::ofProcess() {
     const QString program = System::executablePath();
     return {.registeredModelDir = System::registeredModelDir(),
             .programFolder = program.isEmpty() ? QString() : QFileInfo(program).absolutePath(),
             .dataLocations = QStandardPaths::standardLocations(QStandardPaths::AppDataLocation)};
 }
 
-QString installRoot(const Surroundings &surroundings) {
-    if (!surroundings.registeredModelDir.isEmpty())
-        return QDir(surroundings.registeredModelDir).absolutePath();
-    if (surroundings.programFolder.isEmpty())
+QString installRoot(const Environment &environment) {
+    if (!environment.registeredModelDir.isEmpty())
+        return QDir(environment.registeredModelDir).absolutePath();
+    if (environment.programFolder.isEmpty())
         return {};
-    const QString &program = surroundings.programFolder;
+    const QString &program = environment.programFolder;
     for (const QString &folder : {program, program + "/../share/orvane-studio"_L1}) {
         if (isInstallRoot(folder))
             return QDir::cleanPath(QDir(folder).absolutePath());
@@ -68,10 +68,10 @@ QString filterDataDirectory(const QString &installRoot) {
                            "Filter Data Dir:", "Filter data directory is empty!");
 }
 
-QString logDirectory(const Surroundings &surroundings) {
+QString logDirectory(const Environment &environment) {
     const QString below = u"/Orvane Works/%1/Logs"_s.arg(Identity::productName());
-    const QStringList &locations = surroundings.dataLocations;
-    const QString root = installRoot(surroundings);
+    const QStringList &locations = environment.dataLocations;
+    const QString root = installRoot(environment);
 
     QStringList candidates;
     if (!root.isEmpty())

@@ -11,7 +11,7 @@
 QString startLog(bool plainConsole, int consoleLevel) {
     std::setlocale(LC_ALL, "");
     qputenv("QT_LOGGING_RULES", "qt.qml.binding.removal.info=true");
-    const QString directory = Directories::logDirectory(Directories::Surroundings::ofProcess());
+    const QString directory = Directories::logDirectory(Directories::Environment::ofProcess());
 
     // What is logged before the handler stands goes to the console as it is, so a console that
     // asked for less is spared it here.

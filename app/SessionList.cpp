@@ -8,7 +8,7 @@ namespace {
 
 constexpr qint64 maxBytes = 16 << 20;
 
-/// False, with a word in the log, for what no run of the program has written.
+/// False, with a warning in the log, for what no run of the program has written.
 bool takeText(QFile &file, QString &text) {
     if (file.size() > maxBytes) {
         qWarning("Session file log is larger than %lld bytes.", static_cast<long long>(maxBytes));

@@ -45,13 +45,13 @@ int main(int argc, char **argv) {
     constexpr int infoLevel = 1;
     constexpr int warningLevel = 2;
     const bool verbose = given(arguments, {"--verbose", "-v", "--log"});
-    const auto surroundings = Directories::Surroundings::ofProcess();
+    const auto environment = Directories::Environment::ofProcess();
     // Log lines and the batch run's status line share the terminal.
     TLogger::setConsoleGuard([] { return std::make_shared<StatusLine::Pause>(); });
     const QString logDirectory = startLog(true, verbose ? infoLevel : warningLevel);
     qInfo().noquote() << "Starting" << Identity::productName() << Identity::version();
     Identity::setOnApplication();
-    const QString modelDirectory = Directories::modelDirectory(Directories::installRoot(surroundings));
+    const QString modelDirectory = Directories::modelDirectory(Directories::installRoot(environment));
     const int code = runBatch(argc, argv, modelDirectory, logDirectory);
     TLogger::shutdown();
     return code;

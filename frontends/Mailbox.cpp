@@ -3,21 +3,21 @@
 #include <QCoreApplication>
 #include <QEvent>
 
-void Mailbox::post(Letter letter) {
+void Mailbox::post(Delivery delivery) {
     {
         const std::scoped_lock lock(m_mutex);
-        m_letters.push_back(std::move(letter));
+        m_deliveries.push_back(std::move(delivery));
     }
     QCoreApplication::postEvent(this, new QEvent(QEvent::User));
 }
 
-// One letter for each event keeps the order when a receiver runs a nested event loop.
+// One delivery for each event keeps the order when a receiver runs a nested event loop.
 void Mailbox::customEvent(QEvent *) {
-    Letter letter;
+    Delivery delivery;
     {
         const std::scoped_lock lock(m_mutex);
-        letter = std::move(m_letters.front());
-        m_letters.pop_front();
+        delivery = std::move(m_deliveries.front());
+        m_deliveries.pop_front();
     }
-    letter();
+    delivery();
 }

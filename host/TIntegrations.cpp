@@ -136,5 +136,5 @@ QSize TIntegrations::imageSize(const QString &) const {
 
 void TIntegrations::saveImage(const std::shared_ptr<ImageData> &, const QString &inputPath, const QString &,
                               const QVariantMap &, const QVariantMap &) {
-    Q_EMIT pluginImageSavingError(inputPath, u"No host application is connected."_s);
+    Q_EMIT pluginImageSavingError(inputPath, tr("No host application is connected."));
 }

@@ -71,7 +71,10 @@ ApplicationWindow {
         panel: content.panel
         state: windowState
         settings: mainSettings
-        onLoadingFailed: (path, error) => dialogs.notices.cannotRead(path, error)
+        onLoadingFailed: (path, error) => {
+            openedImages.recentFiles.forget(path);
+            dialogs.notices.cannotRead(path, error);
+        }
     }
     OpenedImages {
         id: openedImages
@@ -110,7 +113,7 @@ ApplicationWindow {
     WindowStart {
         id: windowStart
         integrations: appWindow.host
-        themeListener: appWindow.systemTheme
+        systemTheme: appWindow.systemTheme?.theme ?? "dark" // the listener goes before the window
         titleBar: content.titleBar
         helpers: helpers
         settings: mainSettings

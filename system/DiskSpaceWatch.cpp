@@ -5,7 +5,8 @@
 DiskSpaceWatch::DiskSpaceWatch()
     : m_probe([](const QString &folder) {
         const QStorageInfo volume(folder);
-        return volume.isValid() ? Volume{volume.displayName(), volume.bytesAvailable()} : Volume{};
+        return volume.isValid() ? Volume{volume.rootPath(), volume.displayName(), volume.bytesAvailable()}
+                                : Volume{};
     }) {
 }
 
@@ -14,9 +15,9 @@ std::optional<DiskSpaceWatch::Warning> DiskSpaceWatch::check(const QString &fold
     if (volume.bytesFree < 0 || volume.bytesFree >= LowBytes)
         return {};
     const bool critical = volume.bytesFree < CriticalBytes;
-    bool &reported = critical ? m_criticalReported : m_lowReported;
-    if (reported)
+    QSet<QString> &reported = critical ? m_reportedCritical : m_reportedLow;
+    if (reported.contains(volume.root))
         return {};
-    reported = true;
+    reported.insert(volume.root);
     return Warning{volume.name, critical};
 }

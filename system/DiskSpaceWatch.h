@@ -1,15 +1,17 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 
 #include <functional>
 #include <optional>
 
-/// Tells, once for each level, when a volume that work needs runs short of space.
+/// Tells, once for each volume and level, when a volume that work needs runs short of space.
 class DiskSpaceWatch {
 public:
     struct Volume {
-        QString name;
+        QString root;          ///< where it is mounted; tells volumes apart, which names need not
+        QString name;          ///< as the user knows it
         qint64 bytesFree = -1; ///< negative: unknown
     };
     using Probe = std::function<Volume(const QString &folder)>;
@@ -26,11 +28,11 @@ public:
     explicit DiskSpaceWatch(Probe probe)
         : m_probe(std::move(probe)) {}
 
-    /// A warning when the folder's volume is below a level that was not reported before.
+    /// A warning when the folder's volume is below a level that was not reported of it before.
     std::optional<Warning> check(const QString &folder);
 
 private:
     Probe m_probe;
-    bool m_lowReported = false;
-    bool m_criticalReported = false;
+    QSet<QString> m_reportedLow; ///< roots
+    QSet<QString> m_reportedCritical;
 };

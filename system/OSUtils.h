@@ -52,6 +52,7 @@ public:
     /// Shows this pointer over all of the program until clearCursor; a second call replaces the first.
     Q_INVOKABLE static void setCursor(Qt::CursorShape shape);
     Q_INVOKABLE static void clearCursor();
+    /// The system's present choice; true where it has none.
     Q_INVOKABLE static bool darkMode();
     /// Asks for the user's attention without taking the focus.
     Q_INVOKABLE static void alert();

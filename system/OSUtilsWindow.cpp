@@ -75,7 +75,9 @@ void OSUtils::clearCursor() {
 }
 
 bool OSUtils::darkMode() {
-    return QGuiApplication::styleHints()->colorScheme() == Qt::ColorScheme::Dark;
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return true;
+    return QGuiApplication::styleHints()->colorScheme() != Qt::ColorScheme::Light;
 }
 
 void OSUtils::alert() {

@@ -1,4 +1,3 @@
-#include "app/AppState.h"
 #include "app/Composition.h"
 #include "app/CrashReporter.h"
 #include "app/Directories.h"
@@ -7,23 +6,16 @@
 #include "app/SettingsStore.h"
 #include "app/TLogger.h"
 #include "app/platform/System.h"
-#include "app/studio/GuiWatch.h"
 #include "app/studio/InstanceRole.h"
+#include "app/studio/Interface.h"
 #include "app/studio/InterfaceFonts.h"
 #include "frontends/PreferenceTable.h"
-#include "frontends/TMathUtils.h"
 #include "host/TIntegrations.h"
 #include "host/TIntercom.h"
-#include "items/WindowsThemeListener.h"
-#include "presets/TFilterGenerator.h"
-#include "presets/TFormat.h"
-#include "system/AppContext.h"
 #include "system/Identity.h"
 
 #include <QApplication>
 #include <QDebug>
-#include <QQmlApplicationEngine>
-#include <QQmlContext>
 #include <QQuickWindow>
 #include <QSettings>
 #include <QSurfaceFormat>
@@ -62,55 +54,17 @@ void useOpenGl() {
     qInfo() << "Using Graphics API Index" << int(QQuickWindow::graphicsApi());
 }
 
-/// The interface, from its font to the end of the event loop.
-int runInterface(QApplication &application, TIntegrations &integrations, TIntercom &intercom,
-                 const Directories::Surroundings &surroundings, const QString &logDirectory,
-                 AppState &appState) {
+/// What every document relies on, before the first one is loaded.
+void prepareInterface() {
     setInterfaceFont();
     setInterfacePalette();
     qInfo() << "Initializing QML engine";
     if (storedPreference(QSettings(), u"developerMode").toBool())
         qInfo() << "Developer mode is enabled!";
-
-    const QString installRoot = Directories::installRoot(surroundings);
-    AppContext appContext(Directories::modelDirectory(installRoot), logDirectory);
     joinBackends();
-    TFormat format;
-    TMathUtils mathUtils;
-    QQmlApplicationEngine engine;
-    engine.addImportPath(u":/"_s);
-    engine.addImportPath(u":/PebbleUI"_s);
-
-    QQmlContext *context = engine.rootContext();
-    context->setContextProperty(u"appContext"_s, &appContext);
-    context->setContextProperty(u"appState"_s, &appState);
-    context->setContextProperty(u"tIntegrations"_s, &integrations);
-    context->setContextProperty(u"tIntercom"_s, &intercom);
-    context->setContextProperty(u"TFormat"_s, &format);
-    context->setContextProperty(u"TMathUtils"_s, &mathUtils);
-    WindowsThemeListener themeListener;
-    context->setContextProperty(u"themeListener"_s, &themeListener);
-    const QString filterData = Directories::filterDataDirectory(installRoot);
-    TFilterGenerator filterGenerator;
-    context->setContextProperty(u"filterGenerator"_s, &filterGenerator);
-    filterGenerator.load(filterData + u"/likely_f_sel_combs.json"_s);
-
-    const QUrl main(u"qrc:/imageenhance/main.qml"_s);
-    QObject::connect(
-        &engine, &QQmlApplicationEngine::objectCreated, &application,
-        [main](const QObject *object, const QUrl &url) {
-            if (!object && url == main)
-                QCoreApplication::exit(-1);
-        },
-        Qt::QueuedConnection);
-    qInfo() << "QML engine initialized";
-    engine.load(main);
-    qInfo() << "QML engine loaded";
-    const auto watch = GuiWatch::startIfAsked(engine.rootObjects().value(0));
-    return QApplication::exec();
 }
 
-int run(int argc, char **argv, const QString &logDirectory, const Directories::Surroundings &surroundings,
+int run(int argc, char **argv, const QString &logDirectory, const Directories::Environment &environment,
         const QStringList &recovered) {
     QApplication application(argc, argv);
     TIntegrations integrations(QCoreApplication::arguments() + recovered);
@@ -125,12 +79,14 @@ int run(int argc, char **argv, const QString &logDirectory, const Directories::S
     registerRestartHandler(integrations, *intercom);
     Identity::setOnApplication();
 
-    AppState appState(logDirectory, sessionListName());
-    const int result =
-        runInterface(application, integrations, *intercom, surroundings, logDirectory, appState);
-    appState.saveFileList();
+    prepareInterface();
+    Interface ui(application, integrations, *intercom, Directories::installRoot(environment), logDirectory);
+    const int result = QApplication::exec();
+    // What is open is written down while the interface still stands: its end may go wrong.
+    ui.session().saveFileList();
     integrations.cleanup();
     qInfo() << "Exiting app:" << result;
+    intercom.reset();
     return result;
 }
 
@@ -142,7 +98,7 @@ int main(int argc, char **argv) {
     const QStringList arguments = rawArguments(argc, argv);
     const bool recover = arguments.contains(u"--recover"_s);
     System::setConsoleUtf8();
-    const auto surroundings = Directories::Surroundings::ofProcess();
+    const auto environment = Directories::Environment::ofProcess();
     const QString logDirectory = startLog(false, 0);
 
     const QSettings settings(Identity::organization(), Identity::productName());
@@ -156,7 +112,7 @@ int main(int argc, char **argv) {
 
     const QStringList recovered = recover ? readSessionList(logDirectory) : QStringList();
     qInfo().noquote() << "Starting" << Identity::productName() << Identity::version();
-    const int result = run(argc, argv, logDirectory, surroundings, recovered);
+    const int result = run(argc, argv, logDirectory, environment, recovered);
     TLogger::shutdown();
     return result;
 }

@@ -1,62 +1,51 @@
 import QtQuick
+import TQmlUtils
 
 // Which of the keys that count while held are down.
 QtObject {
     id: _top
 
-    required property var osUtils // OSUtils
+    required property OSUtils osUtils
 
-    readonly property bool spaceHeld: _private.space && _private.plain
-    readonly property bool slashHeld: _private.slash && _private.plain
-    readonly property bool hHeld: _private.h && _private.plain
-    readonly property bool mHeld: _private.m && _private.plain
+    readonly property bool spaceHeld: _private.holds(Qt.Key_Space)
+    readonly property bool slashHeld: _private.holds(Qt.Key_Backslash)
+    readonly property bool hHeld: _private.holds(Qt.Key_H)
+    readonly property bool mHeld: _private.holds(Qt.Key_M)
     readonly property bool panKeyHeld: spaceHeld || hHeld
 
-    function pressed(key: int, modifiers: int): bool {
-        return _private.set(key, modifiers, true);
+    // Both answer whether it is one of the keys. A held key repeats releases and presses, which are neither.
+    function pressed(key: int, modifiers: int, repeated: bool): bool {
+        return _private.set(key, modifiers, true, repeated);
     }
 
-    function released(key: int, modifiers: int): bool {
-        return _private.set(key, modifiers, false);
+    function released(key: int, modifiers: int, repeated: bool): bool {
+        return _private.set(key, modifiers, false, repeated);
     }
 
     // A key released while another window had the focus is not seen; the system tells.
     function reset(): void {
         _private.modifiers = _top.osUtils.keyboardModifiers();
-        _private.space = false;
-        _private.slash = false;
-        _private.h = false;
-        _private.m = false;
+        _private.held = [];
     }
 
     readonly property QtObject _private: QtObject {
         id: _private
 
-        property bool space: false
-        property bool slash: false
-        property bool h: false
-        property bool m: false
+        readonly property list<int> counting: [Qt.Key_Space, Qt.Key_Backslash, Qt.Key_H, Qt.Key_M]
+        property list<int> held
         property int modifiers: Qt.NoModifier
-        readonly property bool plain: modifiers === Qt.NoModifier
 
-        function set(key: int, modifiers: int, down: bool): bool {
+        function holds(key: int): bool {
+            return held.includes(key) && modifiers === Qt.NoModifier;
+        }
+
+        function set(key: int, modifiers: int, down: bool, repeated: bool): bool {
             _private.modifiers = modifiers;
-            switch (key) {
-            case Qt.Key_Space:
-                space = down;
-                return true;
-            case Qt.Key_Backslash:
-                slash = down;
-                return true;
-            case Qt.Key_H:
-                h = down;
-                return true;
-            case Qt.Key_M:
-                m = down;
-                return true;
-            default:
+            if (!counting.includes(key))
                 return false;
-            }
+            if (!repeated)
+                held = Array.from(held).filter(other => other !== key).concat(down ? [key] : []);
+            return true;
         }
     }
 }

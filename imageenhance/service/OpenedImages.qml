@@ -1,14 +1,17 @@
 import QtQuick
+import AppState
+import TControls
 import TImageIO
+import TQmlUtils
 import imageenhance
 
 // What follows when the list of open images changes: recent files, thumbnails, the session list, the filmstrip.
 QtObject {
     id: _top
 
-    required property var controls // TControls
-    required property var appState // AppState
-    required property var osUtils // OSUtils
+    required property TControls controls
+    required property AppState appState
+    required property OSUtils osUtils
     required property MainSettings settings
     required property bool pluginMode
     // The images in view, and a few on each side. Without a list on the screen, those about the current one.
@@ -60,6 +63,9 @@ QtObject {
         }
 
         function onImagesClosed(): void {
+            // The model keeps its index: the next image to be opened would take it and change nothing.
+            if (_top.controls.loadedImages.length === 0)
+                _top.controls.setCurrentIndex(-1);
             if (_top.pluginMode && _top.controls.loadedImages.length === 0)
                 _top.lastClosedByHost();
             _thumbnails.refresh();

@@ -1,32 +1,44 @@
 import QtQuick
+import TQmlUtils
+import imageenhance
 
 // The files opened last, most recent first.
 QtObject {
     id: _top
 
-    required property var settings // MainSettings
-    required property var osUtils
+    required property MainSettings settings
+    required property OSUtils osUtils
     required property bool pluginMode
 
     readonly property int limit: 10
-    readonly property var list: settings.recentFiles ?? []
+    readonly property list<string> list: settings.recentFiles ?? []
 
-    function opened(images: var): void {
+    function opened(images: list<string>): void {
         if (_top.pluginMode)
             return;
-        const recent = Array.from(_top.settings.recentFiles ?? []);
         const fresh = Array.from(images).slice(-_top.limit).reverse();
-        _top.settings.recentFiles = [...new Set(fresh.concat(recent))].slice(0, _top.limit);
+        _top.settings.recentFiles = [...new Set(fresh.concat(Array.from(list)))].slice(0, _top.limit);
+    }
+
+    // A file that can't be read would only fail again.
+    function forget(image: string): void {
+        _private.keep(Array.from(_top.list).filter(path => path !== image));
     }
 
     function clean(): void {
-        const recent = Array.from(_top.settings.recentFiles ?? []);
-        const existing = recent.filter(path => _top.osUtils.fileExists(path));
-        if (existing.length !== recent.length)
-            _top.settings.recentFiles = existing;
+        _private.keep(Array.from(_top.list).filter(path => _top.osUtils.fileExists(path)));
     }
 
     function clear(): void {
         _top.settings.recentFiles = [];
+    }
+
+    readonly property QtObject _private: QtObject {
+        id: _private
+
+        function keep(some: list<string>): void {
+            if (some.length !== _top.list.length)
+                _top.settings.recentFiles = Array.from(some);
+        }
     }
 }

@@ -1,4 +1,9 @@
 import QtQuick
+import QtQuick.Controls
+import AppContext
+import TIntegrations
+import TQmlUtils
+import QWindowKit
 import PebbleUI
 import imageenhance
 
@@ -6,13 +11,13 @@ import imageenhance
 QtObject {
     id: _top
 
-    required property var appWindow // ApplicationWindow
-    required property var appContext // AppContext
-    required property var osUtils // OSUtils
-    required property var integrations // TIntegrations
-    required property var windowAgent // WindowAgent
-    required property var titleBar // WinTitleBar
-    required property var themeListener // WindowsThemeListener
+    required property ApplicationWindow appWindow
+    required property AppContext appContext
+    required property OSUtils osUtils
+    required property TIntegrations integrations
+    required property WindowAgent windowAgent
+    required property WinTitleBar titleBar
+    required property string systemTheme // "light" or "dark"
     required property MainSettings settings
     required property WindowPlace place
     required property RecentFiles recentFiles
@@ -23,7 +28,7 @@ QtObject {
         console.info("Main window loaded");
         place.restoreGeometry();
         windowAgent.setup(appWindow);
-        titleBar.registerWithWindowAgent?.(windowAgent);
+        titleBar.registerWithWindowAgent(windowAgent);
         if (["none", "all"].includes(settings.autopilotSubjectType))
             settings.autopilotSubjectType = "All";
         place.restoreVisibility();
@@ -50,7 +55,7 @@ QtObject {
         id: _private
 
         function followTheme(): void {
-            PebbleStyle.darkMode = Qt.binding(() => _top.settings.colorScheme === "auto" ? _top.themeListener?.theme === "dark" : _top.settings.colorScheme === "dark");
+            PebbleStyle.darkMode = Qt.binding(() => _top.settings.colorScheme === "auto" ? _top.systemTheme === "dark" : _top.settings.colorScheme === "dark");
         }
     }
 }

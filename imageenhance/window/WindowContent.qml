@@ -73,8 +73,8 @@ Item {
     FocusScope {
         id: _globalFocus
         focus: true
-        Keys.onPressed: event => event.accepted = _top.keyState.pressed(event.key, event.modifiers)
-        Keys.onReleased: event => event.accepted = _top.keyState.released(event.key, event.modifiers)
+        Keys.onPressed: event => event.accepted = _top.keyState.pressed(event.key, event.modifiers, event.isAutoRepeat)
+        Keys.onReleased: event => event.accepted = _top.keyState.released(event.key, event.modifiers, event.isAutoRepeat)
     }
     AppShortcuts {
         commands: _top.commands

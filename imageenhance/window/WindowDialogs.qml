@@ -8,13 +8,13 @@ Item {
 
     required property AppCommands commands
     required property WindowState windowState
-    required property var engine // ImageProcessor
-    required property var panel // RightPanel
+    required property ImageProcessor engine
+    required property RightPanel panel
     required property MainSettings settings
     required property bool developerMode
     required property real workAreaTop // below the title bar
 
-    readonly property bool anyOpen: _closing.anyOpen || _notices.anyOpen
+    readonly property bool anyOpen: _queue.count > 0
     readonly property alias closing: _closing
     readonly property alias notices: _notices
     readonly property alias toaster: _toaster
@@ -23,6 +23,10 @@ Item {
     signal closeWindow
     signal done // the keyboard goes back to the window
 
+    DialogQueue {
+        id: _queue
+        onEmptied: _top.done()
+    }
     OpenImageDialog {
         id: _openImage
         imageUtils: _top.windowState.helpers.imageUtils
@@ -34,18 +38,18 @@ Item {
         engine: _top.engine
         osUtils: _top.windowState.helpers.osUtils
         settings: _top.settings
+        queue: _queue
         imageOpen: _top.windowState.imageOpen
         onCloseRefineMode: _top.panel.closeRefineMode()
         onCloseWindow: _top.closeWindow()
         onLeaving: _top.windowState.helpers.leave()
-        onDone: _top.done()
     }
     WindowNotices {
         id: _notices
         osUtils: _top.windowState.helpers.osUtils
         imageUtils: _top.windowState.helpers.imageUtils
         toaster: _toaster
-        onDone: _top.done()
+        queue: _queue
     }
     Toaster {
         id: _toaster

@@ -1,13 +1,14 @@
 import QtQuick
 import QWindowKit
+import TIntegrations
 import imageenhance
 
 // The start: where the window stands, its frame, and the steps until it is seen.
 QtObject {
     id: _top
 
-    required property var integrations // TIntegrations
-    required property var themeListener // WindowsThemeListener
+    required property TIntegrations integrations
+    required property string systemTheme // "light" or "dark"
     required property WinTitleBar titleBar
     required property Helpers helpers
     required property MainSettings settings
@@ -41,7 +42,7 @@ QtObject {
         integrations: _top.integrations
         windowAgent: _agent
         titleBar: _top.titleBar
-        themeListener: _top.themeListener
+        systemTheme: _top.systemTheme
         settings: _top.settings
         place: _place
         recentFiles: _top.recentFiles

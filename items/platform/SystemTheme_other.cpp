@@ -1,14 +1,11 @@
 #include "items/platform/SystemTheme.h"
 
-#include <QGuiApplication>
-#include <QStyleHints>
+#include "system/OSUtils.h"
 
 namespace systemTheme {
 
 bool isDark() {
-    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
-        return true;
-    return QGuiApplication::styleHints()->colorScheme() != Qt::ColorScheme::Light;
+    return OSUtils::darkMode();
 }
 
 bool announcedByMessage() {

@@ -109,13 +109,13 @@ TEST(Directories, RootAndLogsFollowWhatLiesAround) {
         SCOPED_TRACE(row.name);
         const Machine machine;
         machine.make(row.tree);
-        Directories::Surroundings surroundings{.registeredModelDir = machine.path(row.registered),
-                                               .programFolder = machine.path(row.program),
-                                               .dataLocations = {}};
+        Directories::Environment environment{.registeredModelDir = machine.path(row.registered),
+                                             .programFolder = machine.path(row.program),
+                                             .dataLocations = {}};
         for (const QString &location : row.locations)
-            surroundings.dataLocations << machine.path(location);
-        EXPECT_EQ(Directories::installRoot(surroundings), machine.path(row.root));
-        EXPECT_EQ(Directories::logDirectory(surroundings), machine.path(row.logs));
+            environment.dataLocations << machine.path(location);
+        EXPECT_EQ(Directories::installRoot(environment), machine.path(row.root));
+        EXPECT_EQ(Directories::logDirectory(environment), machine.path(row.logs));
     }
     EXPECT_EQ(Directories::logDirectory({}), QDir::homePath() + below) << "no locations at all";
 }
@@ -130,8 +130,7 @@ TEST(Directories, EmptyDataFoldersReadAsTheWorkingFolder) {
 }
 
 TEST(Directories, TheProcessFindsItself) {
-    EXPECT_TRUE(
-        QDir(Directories::Surroundings::ofProcess().programFolder).exists(QStringLiteral("test_app")));
+    EXPECT_TRUE(QDir(Directories::Environment::ofProcess().programFolder).exists(QStringLiteral("test_app")));
 }
 
 } // namespace

@@ -251,19 +251,23 @@ TEST(EngineController, BackEndsComeFromTheFactory) {
     EXPECT_EQ(made, 1);
 }
 
-TEST(DiskSpace, EachLevelIsReportedOnce) {
+TEST(DiskSpace, EachLevelIsReportedOnceForEachVolume) {
     qint64 bytesFree = 0;
-    DiskSpaceWatch watch([&](const QString &folder) { return DiskSpaceWatch::Volume{folder, bytesFree}; });
+    DiskSpaceWatch watch(
+        [&](const QString &folder) { return DiskSpaceWatch::Volume{folder, u"Disk"_s, bytesFree}; });
     struct Row {
         const char *name;
         qint64 bytesFree;
         const char *warning;
+        QString folder = u"/a"_s;
     };
-    for (const Row &row : {Row{"unknown", -1, ""}, Row{"plenty", 5'000'000'000, ""},
-                           Row{"low", 4'999'999'999, "low"}, Row{"still low", 2'000'000'000, ""},
-                           Row{"critical", 999'999'999, "critical"}, Row{"full", 0, ""}}) {
+    for (const Row &row :
+         {Row{"unknown", -1, ""}, Row{"plenty", 5'000'000'000, ""}, Row{"low", 4'999'999'999, "low"},
+          Row{"still low", 2'000'000'000, ""}, Row{"another of that name", 2'000'000'000, "low", u"/b"_s},
+          Row{"critical", 999'999'999, "critical"}, Row{"full", 0, ""},
+          Row{"the other, full", 0, "critical", u"/b"_s}}) {
         bytesFree = row.bytesFree;
-        const auto warning = watch.check(u"volume"_s);
+        const auto warning = watch.check(row.folder);
         EXPECT_STREQ(!warning ? "" : warning->critical ? "critical" : "low", row.warning) << row.name;
     }
 }

@@ -1,6 +1,7 @@
 #include "items/MouseListener.h"
 #include "items/TabletListener.h"
 #include "items/WindowsThemeListener.h"
+#include "system/OSUtils.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
@@ -75,10 +76,11 @@ TEST(TabletListener, LiftOfThePenIsOneReleaseAtItsPlace) {
     EXPECT_EQ(window.position, at);
 }
 
-TEST(ThemeListener, NamesOneOfTwoThemesAndPassesForeignMessagesOn) {
+TEST(ThemeListener, NamesTheThemeOfTheSystemAndPassesForeignMessagesOn) {
     WindowsThemeListener listener;
-    const QSignalSpy changed(&listener, &WindowsThemeListener::themeChanged);
     EXPECT_TRUE(listener.theme() == QLatin1String("dark") || listener.theme() == QLatin1String("light"));
+    EXPECT_EQ(OSUtils::darkMode(), listener.theme() == QLatin1String("dark")) << "where none is chosen, too";
+    const QSignalSpy changed(&listener, &WindowsThemeListener::themeChanged);
     qintptr result = 0;
     EXPECT_FALSE(listener.nativeEventFilter("xcb_generic_event_t", nullptr, &result));
     EXPECT_EQ(changed.size(), 0);

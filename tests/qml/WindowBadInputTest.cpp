@@ -35,6 +35,8 @@ TEST_F(WindowRun, UnusableFilesAreReportedAndTheRestOpens) {
     EXPECT_TRUE(waitForSession({inFolder, good}));
     EXPECT_TRUE(waitForLog("Loading file: " + good.toUtf8()));
     EXPECT_EQ(pressUntilEnd({u"alt+F4"_s, u"Return"_s, u"Escape"_s}), 0);
+    EXPECT_EQ(setting(u"recentFiles"_s).toStringList(), QStringList({good, inFolder}))
+        << "what failed is not offered";
 }
 
 TEST_F(WindowRun, ThousandsOfFilesOpenAtOnce) {

@@ -33,5 +33,9 @@ TEST_F(WindowRun, WindowStaysWhereItWas) {
         ASSERT_TRUE(waitForLog("Main window loaded"));
         ASSERT_EQ(pressUntilEnd({u"alt+F4"_s}), 0);
         EXPECT_EQ(setting(u"windowGeometry"_s).toRectF(), QRectF(place));
+        const QByteArray all = log();
+        EXPECT_TRUE(all.contains("Session files log written."));
+        EXPECT_LT(all.lastIndexOf("Session files log written."), all.lastIndexOf("Closing the QML engine"))
+            << "the session is kept before anything of the interface goes";
     }
 }

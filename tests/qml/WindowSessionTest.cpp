@@ -28,6 +28,11 @@ TEST_F(WindowRun, KilledSessionIsReopened) {
     EXPECT_TRUE(another->waitForFinished(60000));
     EXPECT_EQ(another->exitCode(), 0);
     EXPECT_TRUE(waitForSession({one, two, three}));
+
+    ASSERT_TRUE(pressUntil({u"Escape"_s, u"ctrl+w"_s}, [&] { return session().isEmpty(); }));
+    const QString four = picture(u"four.png"_s, 80, 90);
+    EXPECT_TRUE(startAnother({four})->waitForFinished(60000));
+    EXPECT_TRUE(waitForLog("Loading file: " + four.toUtf8())) << "after the last image has gone";
 }
 
 /// Whichever is first serves; the other one hands its file over and ends without a window.

@@ -21,16 +21,11 @@ TestCase {
     QtObject {
         id: settings
         property rect windowGeometry
-        property var recentFiles: []
     }
     QtObject {
         id: osUtils
-        property var gone: []
         function geometry(): rect {
             return Qt.rect(10, 20, 1300, 800);
-        }
-        function fileExists(path: string): bool {
-            return !gone.includes(path);
         }
     }
     QtObject {
@@ -78,12 +73,6 @@ TestCase {
         onAskToQuit: _case.log.push("ask")
         onCloseWindow: _case.log.push("close")
         onLeaving: _case.log.push("leaving")
-    }
-    RecentFiles {
-        id: recent
-        settings: settings
-        osUtils: osUtils
-        pluginMode: false
     }
 
     function init(): void {
@@ -244,31 +233,5 @@ TestCase {
         quit.imagesOpened();
         imageOpen = false;
         verify(quit.mayClose(), "nothing to lose");
-    }
-
-    // Recent files
-
-    function test_recent_files_data(): var {
-        const many = Array.from({ length: 14 }, (unused, i) => "/" + i);
-        return [
-            { tag: "first", before: [], opened: ["/a"], after: ["/a"] },
-            { tag: "last opened in front", before: ["/a"], opened: ["/b", "/c"], after: ["/c", "/b", "/a"] },
-            { tag: "again", before: ["/a", "/b", "/c"], opened: ["/c"], after: ["/c", "/a", "/b"] },
-            { tag: "ten at most", before: ["/a"], opened: many, after: many.slice(4).reverse() },
-            { tag: "never stored", before: undefined, opened: ["/a"], after: ["/a"] }
-        ];
-    }
-
-    function test_recent_files(row): void {
-        settings.recentFiles = row.before;
-        recent.opened(row.opened);
-        compare(settings.recentFiles, row.after);
-    }
-
-    function test_recent_files_drop_what_is_gone(): void {
-        settings.recentFiles = ["/a", "/b", "/c"];
-        osUtils.gone = ["/b"];
-        recent.clean();
-        compare(settings.recentFiles, ["/a", "/c"]);
     }
 }

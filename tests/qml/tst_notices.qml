@@ -1,9 +1,14 @@
 import QtQuick
 import QtTest
+import TControls
+import TImageProcessor
+import TImageUtils
+import TQmlUtils
 import PebbleUI
 import imageenhance
 
-// What a user reads about files that can't be opened or shown.
+// What a user reads about files that can't be opened or shown, what is asked before images are closed, and that one
+// dialog stands at a time.
 TestCase {
     id: _case
 
@@ -13,63 +18,141 @@ TestCase {
     width: 800
     height: 600
 
-    QtObject {
-        id: fakeOsUtils
-        signal fileMissing(path: string)
-        signal showFileError(path: string)
-        function fileExists(path: string): bool {
-            return !path.startsWith("/gone");
-        }
+    readonly property string here: _imageUtils.urlToString(Qt.resolvedUrl("main.cpp"))
+
+    OSUtils {
+        id: _osUtils
     }
-    QtObject {
-        id: fakeImageUtils
-        function getFilename(path: string): string {
-            return path.slice(path.lastIndexOf("/") + 1);
-        }
+    TImageUtils {
+        id: _imageUtils
     }
     Component {
-        id: all
-        WindowNotices {
-            osUtils: fakeOsUtils
-            imageUtils: fakeImageUtils
-            toaster: null
+        id: windows
+
+        Item {
+            readonly property alias queue: _queue
+            readonly property alias notices: _notices
+            readonly property alias closing: _closing
+            readonly property alias controls: _controls
+
+            DialogQueue {
+                id: _queue
+            }
+            Toaster {
+                id: _toaster
+            }
+            TControls {
+                id: _controls
+            }
+            TEngineController {
+                id: _engine
+            }
+            MainSettings {
+                id: _settings
+            }
+            WindowNotices {
+                id: _notices
+                osUtils: _osUtils
+                imageUtils: _imageUtils
+                toaster: _toaster
+                queue: _queue
+            }
+            ClosingQuestions {
+                id: _closing
+                controls: _controls
+                engine: _engine
+                osUtils: _osUtils
+                settings: _settings
+                queue: _queue
+                imageOpen: true
+            }
         }
     }
 
-    // Message and details of the dialog that stands.
-    function read(notices: var): var {
-        tryVerify(() => notices.anyOpen, 60000);
-        const dialog = Array.from(notices.data).find(object => object instanceof PbDialog);
-        return { dialog, message: dialog.messageText, details: dialog.details };
+    // The dialog that stands, once it is there.
+    function standing(window: Item): PbDialog {
+        const all = Array.from(window.notices.data).concat(Array.from(window.closing.data)).filter(object => object instanceof PbDialog);
+        tryVerify(() => all.filter(dialog => dialog.opened).length === 1, 60000);
+        return all.find(dialog => dialog.opened);
+    }
+
+    function press(dialog: PbDialog, text: string): void {
+        const find = item => item.text === text && item.click ? item : Array.from(item.children).map(find).find(found => found);
+        mouseClick(find(dialog.footer));
+    }
+
+    // A file that is there under another name each time.
+    function existing(i: int): string {
+        return here.replace("main.cpp", "./".repeat(i) + "main.cpp");
     }
 
     function test_messages_data(): var {
-        const many = Array.from({ length: 12 }, (unused, i) => `/${i}.txt`);
+        const many = Array.from({ length: 12 }, (unused, i) => existing(i));
         return [
             { tag: "unreadable", tell: n => n.cannotRead("/a.jpg", "Too short."), message: "Cannot open file: /a.jpg", details: "Too short." },
-            { tag: "two unreadable", tell: n => { n.cannotRead("/a.jpg", "Too short."); n.cannotRead("/b/c.png", "No picture."); }, message: "Cannot open 2 files.", details: "a.jpg: Too short.\nc.png: No picture." },
-            { tag: "unsupported", tell: n => n.invalidImages(["/a.txt", "/gone.jpg"]), message: "unsupported file types", details: "/a.txt\n/gone.jpg" },
-            { tag: "none exists", tell: n => n.invalidImages(["/gone.jpg"]), message: "do not exist", details: "/gone.jpg" },
-            { tag: "many unsupported", tell: n => n.invalidImages(many), message: "unsupported file types", details: many.slice(0, 8).join("\n") + "\nand 4 more" },
-            { tag: "missing in the shell", tell: () => fakeOsUtils.fileMissing("/b/gone.jpg"), message: "Cannot show gone.jpg because it is missing.", details: "Previous location: /b/gone.jpg" },
-            { tag: "shell failed", tell: () => fakeOsUtils.showFileError("/a.jpg"), message: "An error occurred", details: "File location: /a.jpg" }
+            { tag: "two unreadable", tell: n => { n.cannotRead("/a.jpg", "Too short."); n.cannotRead("/b/c.png", "No picture."); n.cannotRead("/a.jpg", "Too short."); }, message: "Cannot open 2 files.", details: "a.jpg: Too short.\nc.png: No picture." },
+            { tag: "missing among the unreadable", tell: n => { n.invalidImages(["/gone.jpg"]); n.cannotRead("/a.jpg", "Too short."); }, message: "Cannot open 2 files.", details: "gone.jpg: The file does not exist.\na.jpg: Too short." },
+            { tag: "missing alone", tell: n => n.invalidImages(["/gone.jpg"]), message: "Cannot open file: /gone.jpg", details: "The file does not exist." },
+            { tag: "unsupported, twice", tell: n => { n.invalidImages([here]); n.invalidImages([here]); }, message: "due to unsupported file types.", details: here },
+            { tag: "many unsupported", tell: n => n.invalidImages(many), message: "due to unsupported file types.", details: many.slice(0, 8).join("\n") + "\nand 4 more" },
+            { tag: "missing in the shell", tell: () => _osUtils.fileMissing("/b/gone.jpg"), message: "Cannot show gone.jpg because it is missing.", details: "Previous location: /b/gone.jpg" },
+            { tag: "shell failed", tell: () => _osUtils.showFileError("/a.jpg"), message: "An error occurred", details: "File location: /a.jpg" }
         ];
     }
 
     function test_messages(row): void {
-        const notices = createTemporaryObject(all, this);
-        row.tell(notices);
-        const read = _case.read(notices);
-        verify(read.message.includes(row.message), read.message);
-        compare(read.details, row.details);
+        const window = createTemporaryObject(windows, this);
+        row.tell(window.notices);
+        const dialog = standing(window);
+        verify(dialog.messageText.includes(row.message), dialog.messageText);
+        compare(dialog.details, row.details);
+        compare(window.queue.count, 1);
     }
 
-    function test_files_that_failed_before_are_not_told_again(): void {
-        const notices = createTemporaryObject(all, this);
-        notices.cannotRead("/a.jpg", "Too short.");
-        read(notices).dialog.close();
-        tryVerify(() => !notices.anyOpen, 60000);
-        notices.cannotRead("/b.jpg", "No picture.");
-        compare(read(notices).message, "Cannot open file: /b.jpg");
+    function test_notices_stand_one_after_the_other(): void {
+        const window = createTemporaryObject(windows, this);
+        window.notices.invalidImages([here, "/gone.jpg"]);
+        _osUtils.fileMissing("/b.jpg");
+        _osUtils.fileMissing("/b.jpg");
+        for (const message of ["Cannot open file: /gone.jpg", "unsupported file types", "Cannot show b.jpg"]) {
+            const dialog = standing(window);
+            verify(dialog.messageText.includes(message), dialog.messageText);
+            tryVerify(() => dialog.settled, 60000);
+            press(dialog, "Close");
+        }
+        compare(window.queue.count, 0);
+        window.notices.cannotRead("/c.jpg", "No picture.");
+        compare(standing(window).messageText, "Cannot open file: /c.jpg", "what was read is not told again");
+    }
+
+    // The second click of a double click on a notice lands on the question that comes in its place.
+    function test_question_takes_no_click_meant_for_a_notice(): void {
+        const window = createTemporaryObject(windows, this);
+        window.controls.loadImages(["/a.jpg", "/b.jpg"]);
+        window.notices.cannotRead("/c.jpg", "No picture.");
+        window.closing.closeAllImages();
+        const notice = standing(window);
+        press(notice, "Close");
+        const question = standing(window);
+        verify(question !== notice);
+        press(question, "Close");
+        verify(question.opened);
+        compare(window.controls.loadedImages.length, 2);
+        tryVerify(() => question.settled, 60000);
+        press(question, "Close");
+        compare(window.controls.loadedImages.length, 0);
+        compare(window.queue.count, 0);
+    }
+
+    // What it was asked about has changed: its answer would close others.
+    function test_question_goes_with_its_images(): void {
+        const window = createTemporaryObject(windows, this);
+        window.controls.loadImages(["/a.jpg", "/b.jpg"]);
+        window.closing.closeAllImages();
+        const question = standing(window);
+        window.controls.closeImage(0);
+        verify(!question.visible);
+        question.accepted();
+        compare(window.controls.loadedImages, ["/b.jpg"]);
     }
 }

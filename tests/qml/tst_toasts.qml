@@ -1,5 +1,7 @@
 import QtQuick
 import QtTest
+import TImageUtils
+import TQmlUtils
 import imageenhance
 
 TestCase {
@@ -37,32 +39,22 @@ TestCase {
             height: implicitHeight
         }
     }
-    QtObject {
-        id: osUtils
-        signal fileMissing(path: string)
-        signal showFileError(path: string)
-        function fileExists(path: string): bool {
-            return !path.startsWith("/gone");
-        }
+    OSUtils {
+        id: _osUtils
     }
-    QtObject {
-        id: imageUtils
-        function getFilename(path: string): string {
-            return path.slice(path.lastIndexOf("/") + 1);
-        }
+    TImageUtils {
+        id: _imageUtils
     }
-    QtObject {
-        id: toaster
-        readonly property int timeoutNone: -1
-        function queue(options: var): void {
-            _case.log.push(options);
-        }
+    DialogQueue {
+        id: _queue
     }
-    WindowNotices {
+    Component {
         id: notices
-        osUtils: osUtils
-        imageUtils: imageUtils
-        toaster: toaster
+        WindowNotices {
+            osUtils: _osUtils
+            imageUtils: _imageUtils
+            queue: _queue
+        }
     }
 
     function init(): void {
@@ -133,9 +125,13 @@ TestCase {
     }
 
     function test_low_space(row): void {
-        notices.lowSpace("C", row.critical);
-        const toast = log[0];
-        compare([toast.title, toast.type, toast.timeout, toast.showOnlyOnce], [row.title, row.type, -1, true]);
+        const toaster = createTemporaryObject(toasters, this);
+        const all = createTemporaryObject(notices, this, { toaster });
+        all.lowSpace("C", row.critical);
+        all.lowSpace("C", row.critical);
+        compare(toaster.count, 1);
+        const toast = Array.from(toaster.children).find(item => item instanceof ListView).model.get(0);
+        compare([toast.title, toast.type, toast.timeout], [row.title, row.type, toaster.timeoutNone]);
         verify(toast.message.includes(row.has), toast.message);
     }
 }

@@ -1,41 +1,47 @@
 import QtQuick
+import TControls
+import TImageProcessor
+import TQmlUtils
 import imageenhance
 
 // The flows that end with an image, several, or the window closed, and the questions they ask.
 Item {
     id: _top
 
-    required property var controls // TControls
-    required property var engine // ImageProcessor
-    required property var osUtils // OSUtils
+    required property TControls controls
+    required property TEngineController engine
+    required property OSUtils osUtils
     required property MainSettings settings
+    required property DialogQueue queue
     required property bool imageOpen
 
     readonly property alias quit: _quit
-    readonly property bool anyOpen: _exitWarning.visible || _closeWarning.visible || _severalWarning.visible
 
     signal closeRefineMode
     signal closeWindow
     signal leaving
-    signal done // the keyboard goes back to the window
 
+    // A question that stands keeps its meaning: none is asked over it.
     function closeImage(index: int): void {
-        _one.closeImage(index);
+        if (!_top.queue.has(_closeWarning.turn))
+            _one.closeImage(index);
     }
 
     function closeSelectedImages(): void {
-        _several.closeSelectedImages();
+        if (!_top.queue.has(_severalWarning.turn))
+            _several.closeSelectedImages();
     }
 
     function closeAllImages(): void {
-        _several.closeAllImages();
+        if (!_top.queue.has(_severalWarning.turn))
+            _several.closeAllImages();
     }
 
     ClosingFlow {
         id: _one
         controls: _top.controls
         engine: _top.engine
-        onAskToClose: _closeWarning.open()
+        onAskToClose: _top.queue.ask(_closeWarning.turn)
         onCloseRefineMode: _top.closeRefineMode()
     }
 
@@ -52,41 +58,57 @@ Item {
         imageOpen: _top.imageOpen
         settings: _top.settings
         osUtils: _top.osUtils
-        onAskToQuit: _exitWarning.open()
+        onAskToQuit: _top.queue.ask(_exitWarning.turn)
         onCloseWindow: _top.closeWindow()
         onLeaving: _top.leaving()
+    }
+
+    // An image may go by itself, because its file has. What was asked about the images before is not asked any more:
+    // the answer would close others.
+    Connections {
+        target: _top.controls
+
+        function onImagesClosed(): void {
+            _one.cancel();
+            _several.cancel();
+            _top.queue.done(_closeWarning.turn);
+            _top.queue.done(_severalWarning.turn);
+        }
     }
 
     QuestionDialog {
         id: _exitWarning
         objectName: "exitWarningPrompt"
+        queue: _top.queue
+        turn: "exit"
         messageText: qsTr("Are you sure you want to exit? Any unsaved changes will be lost.")
         confirmText: qsTr("Close")
         onAccepted: _quit.confirm()
-        onClosed: _top.done()
     }
 
     QuestionDialog {
         id: _closeWarning
         objectName: "closeWarningPrompt"
+        queue: _top.queue
+        turn: "close"
         messageText: qsTr("Are you sure you want to close this image? Any unsaved changes will be lost.")
         confirmText: qsTr("Close")
         onAccepted: _one.confirm()
         onRejected: _one.cancel()
-        onClosed: _top.done()
     }
 
     QuestionDialog {
         id: _severalWarning
         objectName: "closeSeveralPrompt"
+        queue: _top.queue
+        turn: "close several"
         confirmText: qsTr("Close")
         onAccepted: _several.confirm()
         onRejected: _several.cancel()
-        onClosed: _top.done()
 
         function ask(question: string, consequence: string): void {
             messageText = question + " " + consequence;
-            open();
+            _top.queue.ask(turn);
         }
     }
 }

@@ -1,23 +1,19 @@
 import QtQuick
 import QtQuick.Layouts
 import PebbleUI
+import imageenhance
 
 // Says something, with a line of details, and has one button.
-PbDialog {
+QueuedDialog {
     id: _top
 
-    property string details: ""
-
-    function show(message: string, more = ""): void {
-        messageText = message;
-        details = more;
-        open();
-    }
+    required property string details
 
     buttons: [
         {
             type: PbButton.Type.Primary,
-            text: qsTr("Close")
+            text: qsTr("Close"),
+            onClicked: () => _top.answer(true)
         }
     ]
 

@@ -1,8 +1,8 @@
-import QtQuick
 import PebbleUI
+import imageenhance
 
 // A question with two answers: accepted() by its second button, rejected() by anything else.
-PbDialog {
+QueuedDialog {
     id: _top
 
     required property string confirmText
@@ -12,11 +12,12 @@ PbDialog {
         {
             type: PbButton.Type.Secondary,
             text: qsTr("Cancel"),
-            onClicked: () => _top.reject()
+            onClicked: () => _top.answer(false)
         },
         {
             type: PbButton.Type.Primary,
-            text: _top.confirmText
+            text: _top.confirmText,
+            onClicked: () => _top.answer(true)
         }
     ]
 }

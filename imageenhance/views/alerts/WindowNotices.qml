@@ -1,36 +1,44 @@
 import QtQuick
+import TImageUtils
+import TQmlUtils
 import imageenhance
 
 // What went wrong outside the picture: files that can't be read, opened or shown, a volume that runs full.
 Item {
     id: _top
 
-    required property var osUtils // OSUtils
-    required property var imageUtils // TImageUtils
-    required property var toaster // Toaster
+    required property OSUtils osUtils
+    required property TImageUtils imageUtils
+    required property Toaster toaster
+    required property DialogQueue queue
 
-    readonly property bool anyOpen: _notice.visible
     readonly property int listedFiles: 8
 
-    signal done
-
-    // Files that fail while the notice stands join it: the picture after a damaged one may be damaged, too.
+    // Files that fail until the notice is closed join it: the picture after a damaged one may be damaged, too.
     function cannotRead(path: string, error: string): void {
+        if (_private.failed.some(file => file.path === path && file.error === error))
+            return;
         const failed = _private.failed.concat({
             path,
             error
         });
-        if (failed.length === 1)
-            _notice.show(qsTr("Cannot open file: ") + path, error);
-        else
-            _notice.show(qsTr("Cannot open %1 files.").arg(failed.length), _private.listed(failed.map(file => `${_top.imageUtils.getFilename(file.path)}: ${file.error}`)));
         _private.failed = failed;
+        if (failed.length === 1)
+            _private.tell("unreadable", qsTr("Cannot open file: ") + path, error);
+        else
+            _private.tell("unreadable", qsTr("Cannot open %1 files.").arg(failed.length), _private.listed(failed.map(file => `${_top.imageUtils.getFilename(file.path)}: ${file.error}`)));
     }
 
-    function invalidImages(paths: var): void {
-        const gone = paths.filter(path => !_top.osUtils.fileExists(path));
-        const why = gone.length === paths.length ? qsTr("Could not open one or more images because they do not exist.") : qsTr("Could not open one or more images due to unsupported file types.");
-        _notice.show(why, _private.listed(paths));
+    function invalidImages(paths: list<string>): void {
+        const unsupported = paths.filter(path => _top.osUtils.fileExists(path));
+        for (const path of paths) {
+            if (!unsupported.includes(path))
+                cannotRead(path, qsTr("The file does not exist."));
+        }
+        if (unsupported.length === 0)
+            return;
+        _private.unsupported = [...new Set(_private.unsupported.concat(unsupported))];
+        _private.tell("unsupported", qsTr("Could not open one or more images due to unsupported file types."), _private.listed(_private.unsupported));
     }
 
     function lowSpace(volume: string, critical: bool): void {
@@ -48,27 +56,51 @@ Item {
         target: _top.osUtils
 
         function onFileMissing(path: string): void {
-            _notice.show(qsTr("Cannot show %1 because it is missing.").arg(_top.imageUtils.getFilename(path)), qsTr("Previous location: ") + path);
+            _private.tell("missing " + path, qsTr("Cannot show %1 because it is missing.").arg(_top.imageUtils.getFilename(path)), qsTr("Previous location: ") + path);
         }
 
         function onShowFileError(path: string): void {
-            _notice.show(qsTr("An error occurred when trying to show the file."), qsTr("File location: ") + path);
+            _private.tell("not shown " + path, qsTr("An error occurred when trying to show the file."), qsTr("File location: ") + path);
+        }
+    }
+
+    Connections {
+        target: _top.queue
+
+        function onLeft(name: string): void {
+            _private.forget(name);
         }
     }
 
     NoticeDialog {
-        id: _notice
         objectName: "noticePrompt"
-        onClosed: {
-            _private.failed = [];
-            _top.done();
-        }
+        queue: _top.queue
+        turn: _private.notices[_top.queue.current] ? _top.queue.current : ""
+        messageText: _private.notices[turn]?.message ?? ""
+        details: _private.notices[turn]?.details ?? ""
     }
 
     QtObject {
         id: _private
 
-        property var failed: [] // { path, error } of the files in the notice
+        property var notices: ({}) // name in the queue -> { message, details } of what is not read yet
+        property var failed: [] // { path, error } of the files in the notice of unreadable ones
+        property var unsupported: [] // paths in the notice of unsupported ones
+
+        function tell(name: string, message: string, details: string): void {
+            _private.notices = Object.assign({}, _private.notices, { [name]: { message, details } });
+            _top.queue.ask(name);
+        }
+
+        function forget(name: string): void {
+            const rest = Object.assign({}, _private.notices);
+            delete rest[name];
+            _private.notices = rest;
+            if (name === "unreadable")
+                _private.failed = [];
+            else if (name === "unsupported")
+                _private.unsupported = [];
+        }
 
         function listed(lines: var): string {
             const shown = lines.slice(0, _top.listedFiles);

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls.Fusion
 import QtQuick.Effects
+import TImageUtils
 import PebbleUI
 
 // One recent file: its picture, rounded, and its name.
@@ -10,7 +11,7 @@ AbstractButton {
 
     required property string path
     required property string thumbnail // empty until one is written
-    required property var imageUtils
+    required property TImageUtils imageUtils
 
     readonly property int decodeLimit: 1024
 

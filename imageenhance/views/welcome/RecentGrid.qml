@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import TImageIO
+import TImageUtils
 import PebbleUI
 import imageenhance
 
@@ -9,8 +10,8 @@ import imageenhance
 ColumnLayout {
     id: _top
 
-    required property var recentFiles
-    required property var imageUtils
+    required property list<string> recentFiles
+    required property TImageUtils imageUtils
 
     readonly property int maxRows: 3
     readonly property int cellHeight: 132
@@ -56,7 +57,7 @@ ColumnLayout {
             spacing: _top.spacing
 
             Repeater {
-                model: _top.recentFiles.slice(0, 2 * _top.rows)
+                model: Array.from(_top.recentFiles).slice(0, 2 * _top.rows)
 
                 RecentCell {
                     required property string modelData
@@ -74,7 +75,7 @@ ColumnLayout {
 
     TThumbnailWriter {
         id: _writer
-        imageDatas: _top.recentFiles.map(path => ({ "filepath": path }))
+        imageDatas: Array.from(_top.recentFiles).map(path => ({ "filepath": path }))
         onImageDatasChanged: Qt.callLater(_writer.startGenerating)
         Component.onCompleted: Qt.callLater(_writer.startGenerating)
         onThumbnailWritten: (index, path, thumbnail) => {

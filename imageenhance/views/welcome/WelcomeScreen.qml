@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import TImageUtils
 import PebbleUI
 import imageenhance
 
@@ -7,8 +8,8 @@ import imageenhance
 Rectangle {
     id: _top
 
-    required property var recentFiles // paths, most recent first
-    required property var imageUtils // TImageUtils
+    required property list<string> recentFiles // paths, most recent first
+    required property TImageUtils imageUtils
     required property bool dropEnabled
 
     signal browseImages
