@@ -10,17 +10,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 bool hasSubject(const QString &category) {
-    static const QSet<QString> categories = {u"Denoise"_s, u"Sharpen"_s, u"Exposure Adjust"_s,
-                                             u"White Balance Adjust"_s};
+    static const QSet<QString> categories = {Categories::Denoise, Categories::Sharpen, Categories::Exposure,
+                                             Categories::WhiteBalance};
     return categories.contains(category);
 }
 
 } // namespace
-
-QStringList batchFilterOrder() {
-    return {u"RAW"_s,           u"Exposure Adjust"_s, u"White Balance Adjust"_s, u"Denoise"_s, u"Sharpen"_s,
-            u"Face Recovery"_s, u"Enhance"_s,         u"Text Recovery"_s};
-}
 
 SettingsMerge::SettingsMerge(TControls &controls, const BatchOptions &options, const QStringList &filterOrder,
                              const QMap<QString, QString> &categories)
@@ -48,7 +43,7 @@ void SettingsMerge::initialize(const QString &category, const QVariantMap &setti
 void SettingsMerge::applyAutopilot(const QVariantMap &autopilot) {
     for (const QString &category : m_filterOrder) {
         const QVariantMap settings = autopilot.value(category).toMap();
-        if (settings.value(u"enabled"_s).toBool())
+        if (settings.value(Keys::Enabled).toBool())
             initialize(category, settings);
     }
 }
@@ -60,7 +55,7 @@ void SettingsMerge::applyOverrides(const QVariantMap &autopilot) {
             continue;
         initialize(category, autopilot.value(category).toMap());
         if (m_options.overrideAutopilot)
-            m_controls.setParam(category, u"enabled"_s, true);
+            m_controls.setParam(category, Keys::Enabled, true);
         for (const QString &text : texts)
             applyOverride(category, text);
     }
@@ -72,7 +67,7 @@ void SettingsMerge::applyOverride(const QString &category, const QString &text) 
     const QString value = parts.value(1);
     console::outLine(u"Overwriting "_s + category + u' ' + key + u" to "_s + value);
     qInfo() << "[CLI] Set" << category << key << "=" << value;
-    if (key == "model"_L1)
+    if (key == Keys::Model)
         m_controls.setModel(category, value);
     else
         m_controls.setParam(category, key, QVariant(value));

@@ -6,11 +6,9 @@
 
 class TControls;
 
-/// The filters that a batch run looks at, in the order in which they run.
-QStringList batchFilterOrder();
-
 /// Puts on the current image the filters that Autopilot enabled, then the user's overrides on top,
 /// and sets the order of processing. `autopilot` is Autopilot's answer: category to settings.
+/// What the overrides ask for and can't have is said with the names that exist; the run goes on.
 class SettingsMerge {
 public:
     SettingsMerge(TControls &controls, const BatchOptions &options, const QStringList &filterOrder,

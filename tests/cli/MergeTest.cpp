@@ -40,7 +40,7 @@ protected:
 
     TControls m_controls;
     BatchOptions m_options;
-    QStringList m_order = batchFilterOrder();
+    QStringList m_order = Categories::processingOrder();
     QMap<QString, QString> m_categories = categoryStems();
     Capture m_capture;
 };
