@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/BatchOptions.h"
+#include "cli/OverrideCheck.h"
 
 #include <QVariantMap>
 
@@ -20,7 +21,10 @@ private:
     void initialize(const QString &category, const QVariantMap &settings);
     void applyAutopilot(const QVariantMap &autopilot);
     void applyOverrides(const QVariantMap &autopilot);
-    void applyOverride(const QString &category, const QString &text);
+    void applyOverride(const QString &category, const Override &setting);
+    QVariantMap filterOf(const QString &category) const;
+    void settleSize(const QList<Override> &overrides);
+    void report(const QString &category, const QList<Override> &overrides);
     void setOrder();
 
     TControls &m_controls;
