@@ -169,6 +169,6 @@ int benchAutopilot(const QStringList &arguments) {
     }
     if (!options.only.isEmpty())
         return worst;
-    worst = std::max({worst, orderOfBlurs(photographs), mostDrawn(photographs)});
+    worst = std::max({worst, orderOfBlurs(photographs), mostLikeADrawing(photographs)});
     return std::max(worst, timeOfALargeOne(photographs.front()));
 }

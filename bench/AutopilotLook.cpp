@@ -16,10 +16,11 @@ Look look(const Degradation &degradation, const Photograph &photograph, std::siz
     result.degraded = degradation.apply(photograph, random);
     EngineInput input;
     input.image = toImage(result.degraded.picture);
+    static const auto models = ModelCatalogue::read(QStringLiteral(ORVANE_MODELS));
     AutopilotOptions options;
     options.preferences.upscalingType = u"none"_s;
     result.statistics = measureImage(*input.image, {});
-    result.answer = analyseImage(input, result.statistics, options, {});
+    result.answer = analyseImage(input, result.statistics, *models, options, {});
     return result;
 }
 

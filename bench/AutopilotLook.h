@@ -29,7 +29,7 @@ double gainOf(const Look &look, EngineRun &engine);
 int orderOfBlurs(const std::vector<Photograph> &photographs);
 
 /// Whether none of the photographs would be taken for a drawing; 1 where one would.
-int mostDrawn(const std::vector<Photograph> &photographs);
+int mostLikeADrawing(const std::vector<Photograph> &photographs);
 
 /// What a look at 24 megapixels takes; 1 where it takes too long.
 int timeOfALargeOne(const Photograph &photograph);

@@ -47,18 +47,18 @@ int orderOfBlurs(const std::vector<Photograph> &photographs) {
     return right == all ? 0 : 1;
 }
 
-int mostDrawn(const std::vector<Photograph> &photographs) {
+int mostLikeADrawing(const std::vector<Photograph> &photographs) {
     float most = 0;
     QString name;
     for (const Photograph &photograph : photographs) {
-        const float drawn = measureImage(*toImage(photograph.clean), {}).drawn;
-        if (drawn >= most)
+        const float drawing = measureImage(*toImage(photograph.clean), {}).drawing;
+        if (drawing >= most)
             name = photograph.name;
-        most = std::max(most, drawn);
+        most = std::max(most, drawing);
     }
     std::printf("flat colour beside edges, the most of any photograph: %.3f, %s (bound %.2f)\n", double(most),
-                qPrintable(name), double(Thresholds::DrawnShare));
-    return most < Thresholds::DrawnShare ? 0 : 1;
+                qPrintable(name), double(Thresholds::DrawingShare));
+    return most < Thresholds::DrawingShare ? 0 : 1;
 }
 
 int timeOfALargeOne(const Photograph &photograph) {
@@ -73,7 +73,7 @@ int timeOfALargeOne(const Photograph &photograph) {
     for (int turn = 0; turn < 3; ++turn) {
         QElapsedTimer timer;
         timer.start();
-        analyseImage(input, measureImage(*input.image, {}), {}, {});
+        analyseImage(input, measureImage(*input.image, {}), {}, {}, {});
         best = std::min(best, double(timer.nsecsElapsed()) / 1e9);
     }
     std::printf("Autopilot on 24 megapixels: %.3f s (bound %.1f)\n", best, SecondsFor24);

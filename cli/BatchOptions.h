@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contracts/FilterNames.h"
+
 #include <QMap>
 #include <QSet>
 #include <QString>
@@ -34,11 +36,11 @@ struct BatchOptions {
 
 /// Part of an option's name to the category that it switches on. The order decides ties.
 inline QMap<QString, QString> categoryStems() {
-    return {{QStringLiteral("color"), QStringLiteral("White Balance Adjust")},
-            {QStringLiteral("face"), QStringLiteral("Face Recovery")},
-            {QStringLiteral("light"), QStringLiteral("Exposure Adjust")},
-            {QStringLiteral("nois"), QStringLiteral("Denoise")},
-            {QStringLiteral("raw"), QStringLiteral("RAW")},
-            {QStringLiteral("sharpen"), QStringLiteral("Sharpen")},
-            {QStringLiteral("upscal"), QStringLiteral("Enhance")}};
+    return {{QStringLiteral("color"), Categories::WhiteBalance},
+            {QStringLiteral("face"), Categories::FaceRecovery},
+            {QStringLiteral("light"), Categories::Exposure},
+            {QStringLiteral("nois"), Categories::Denoise},
+            {QStringLiteral("raw"), Categories::Raw},
+            {QStringLiteral("sharpen"), Categories::Sharpen},
+            {QStringLiteral("upscal"), Categories::Enhance}};
 }

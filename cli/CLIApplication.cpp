@@ -33,7 +33,7 @@ std::shared_ptr<ImageData> imageOf(const QVariantMap &map) {
 
 CLIApplication::CLIApplication(int argc, char **argv)
     : m_argc(argc)
-    , m_filterOrder(batchFilterOrder())
+    , m_filterOrder(Categories::processingOrder())
     , m_application(m_argc, argv)
     , m_categories(categoryStems()) {
     Identity::setOnApplication();

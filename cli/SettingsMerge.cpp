@@ -5,22 +5,19 @@
 
 #include <QDebug>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 bool hasSubject(const QString &category) {
-    static const QSet<QString> categories = {u"Denoise"_s, u"Sharpen"_s, u"Exposure Adjust"_s,
-                                             u"White Balance Adjust"_s};
+    static const QSet<QString> categories = {Categories::Denoise, Categories::Sharpen, Categories::Exposure,
+                                             Categories::WhiteBalance};
     return categories.contains(category);
 }
 
 } // namespace
-
-QStringList batchFilterOrder() {
-    return {u"RAW"_s,           u"Exposure Adjust"_s, u"White Balance Adjust"_s, u"Denoise"_s, u"Sharpen"_s,
-            u"Face Recovery"_s, u"Enhance"_s,         u"Text Recovery"_s};
-}
 
 SettingsMerge::SettingsMerge(TControls &controls, const BatchOptions &options, const QStringList &filterOrder,
                              const QMap<QString, QString> &categories)
@@ -48,7 +45,7 @@ void SettingsMerge::initialize(const QString &category, const QVariantMap &setti
 void SettingsMerge::applyAutopilot(const QVariantMap &autopilot) {
     for (const QString &category : m_filterOrder) {
         const QVariantMap settings = autopilot.value(category).toMap();
-        if (settings.value(u"enabled"_s).toBool())
+        if (settings.value(Keys::Enabled).toBool())
             initialize(category, settings);
     }
 }
@@ -60,22 +57,54 @@ void SettingsMerge::applyOverrides(const QVariantMap &autopilot) {
             continue;
         initialize(category, autopilot.value(category).toMap());
         if (m_options.overrideAutopilot)
-            m_controls.setParam(category, u"enabled"_s, true);
+            m_controls.setParam(category, Keys::Enabled, true);
+        QList<Override> overrides;
         for (const QString &text : texts)
-            applyOverride(category, text);
+            overrides.append(parseOverride(text));
+        for (const Override &setting : std::as_const(overrides))
+            applyOverride(category, setting);
+        if (category == Categories::Enhance)
+            settleSize(overrides);
+        report(category, overrides);
     }
 }
 
-void SettingsMerge::applyOverride(const QString &category, const QString &text) {
-    const QStringList parts = text.split(u'=', Qt::SkipEmptyParts);
-    const QString key = parts.value(0);
-    const QString value = parts.value(1);
+void SettingsMerge::applyOverride(const QString &category, const Override &setting) {
+    const auto &[key, value] = setting;
     console::outLine(u"Overwriting "_s + category + u' ' + key + u" to "_s + value);
     qInfo() << "[CLI] Set" << category << key << "=" << value;
-    if (key == "model"_L1)
+    if (key == Keys::Model)
         m_controls.setModel(category, value);
     else
         m_controls.setParam(category, key, QVariant(value));
+}
+
+QVariantMap SettingsMerge::filterOf(const QString &category) const {
+    return m_controls.currentControls().value(category).toMap();
+}
+
+// To the engine, a scale that contradicts the width means that the picture is cropped, which a batch run
+// doesn't do: what Autopilot worked out for another size goes.
+void SettingsMerge::settleSize(const QList<Override> &overrides) {
+    const QString mode =
+        filterOf(Categories::Enhance).value(Keys::Params).toMap().value(Params::Mode).toString();
+    const bool isAsked = std::any_of(overrides.cbegin(), overrides.cend(), [&](const Override &setting) {
+        return setting.first == Params::Mode || setting.first == mode;
+    });
+    if (isAsked && (mode == Params::Width || mode == Params::Height))
+        m_controls.removeKeyFromControlParams(Categories::Enhance, Params::Scale);
+}
+
+void SettingsMerge::report(const QString &category, const QList<Override> &overrides) {
+    const QVariantMap catalogue = m_controls.modelParamInfo();
+    if (catalogue.isEmpty())
+        return;
+    const QStringList problems =
+        overrideProblems(category, filterOf(category), catalogue.value(category).toMap(), overrides);
+    for (const QString &problem : problems) {
+        console::errLine(problem);
+        qWarning().noquote() << "[CLI]" << problem;
+    }
 }
 
 void SettingsMerge::setOrder() {

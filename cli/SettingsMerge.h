@@ -1,16 +1,15 @@
 #pragma once
 
 #include "cli/BatchOptions.h"
+#include "cli/OverrideCheck.h"
 
 #include <QVariantMap>
 
 class TControls;
 
-/// The filters that a batch run looks at, in the order in which they run.
-QStringList batchFilterOrder();
-
 /// Puts on the current image the filters that Autopilot enabled, then the user's overrides on top,
 /// and sets the order of processing. `autopilot` is Autopilot's answer: category to settings.
+/// What the overrides ask for and can't have is said with the names that exist; the run goes on.
 class SettingsMerge {
 public:
     SettingsMerge(TControls &controls, const BatchOptions &options, const QStringList &filterOrder,
@@ -22,7 +21,10 @@ private:
     void initialize(const QString &category, const QVariantMap &settings);
     void applyAutopilot(const QVariantMap &autopilot);
     void applyOverrides(const QVariantMap &autopilot);
-    void applyOverride(const QString &category, const QString &text);
+    void applyOverride(const QString &category, const Override &setting);
+    QVariantMap filterOf(const QString &category) const;
+    void settleSize(const QList<Override> &overrides);
+    void report(const QString &category, const QList<Override> &overrides);
     void setOrder();
 
     TControls &m_controls;

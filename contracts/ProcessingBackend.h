@@ -28,7 +28,8 @@ struct AutopilotOptions {
     Autopilot::Preferences preferences;
 };
 
-/// `settings`: category to { enabled, model, parameters... }. `problems`: what was measured.
+/// `settings`: category to { enabled, model, parameters... }, with the parameters of every installed model
+/// of the category within the ranges of the catalogue. `problems`: what was measured.
 /// Exactly one of: cancelled, a non-empty error, or an answer.
 struct AutopilotAnswer {
     bool cancelled = false;
@@ -38,7 +39,8 @@ struct AutopilotAnswer {
 };
 
 /// Run the filters named in `filterOrder` over `region` (pixels of the input). `params` is a
-/// controls map: filter name to { category, model, params, enabled, subjectSettings }.
+/// controls map: filter name to { category, model, params, enabled, subjectSettings }. The names are those
+/// of FilterNames.h.
 struct ProcRequest {
     EngineInput input;
     QRect region{};
@@ -67,14 +69,15 @@ struct SubjectMasks {
     QVariantMap textures;
 };
 
-/// The whole width of the door between the program and the pixel work. Called on worker threads
+/// All that passes between the program and the pixel work. Called on worker threads
 /// of the front end, one call at a time unless stated; never throws.
 class ProcessingBackend {
 public:
     virtual ~ProcessingBackend() = default;
 
     /// Category to model to { gui: { parameters: { name: { default, min, max } } } }, read from
-    /// the definition files in the directory; empty when there are none.
+    /// the definition files in the directory; empty when there are none. Only models that can be run are
+    /// there; a flag has a default of true or false and no range. The others wait for a call under way.
     virtual QVariantMap catalogue(const QString &modelDirectory) = 0;
 
     /// May run while process() runs on another thread.

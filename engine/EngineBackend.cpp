@@ -1,11 +1,14 @@
 #include "engine/EngineBackend.h"
 
 #include "engine/analysis/Analyse.h"
-#include "engine/core/ImageFacts.h"
+#include "engine/analysis/ImageFacts.h"
 #include "engine/core/PixelTransfer.h"
 #include "engine/filters/FilterStack.h"
 #include "engine/filters/Filters.h"
 
+#include <QCoreApplication>
+
+#include <condition_variable>
 #include <new>
 #include <thread>
 
@@ -28,7 +31,8 @@ public:
 
 private:
     ProcResult run(const ProcRequest &request, const RunControl &control);
-    std::shared_ptr<const ModelCatalogue> models();
+    /// Waits for definitions that are being read.
+    std::shared_ptr<const ModelCatalogue> models(const std::stop_token &stop);
 
     const int m_threads;
     const int m_tileSide;
@@ -36,6 +40,8 @@ private:
     ImageFacts m_facts;
     NetworkStore m_networks;
     std::mutex m_mutex;
+    std::condition_variable_any m_read;
+    int m_reading = 0;
     std::shared_ptr<const ModelCatalogue> m_models;
 };
 
@@ -51,21 +57,30 @@ ProcResult cancelled() {
     return result;
 }
 
-std::shared_ptr<const ModelCatalogue> EngineBackend::models() {
-    const std::lock_guard lock(m_mutex);
+std::shared_ptr<const ModelCatalogue> EngineBackend::models(const std::stop_token &stop) {
+    std::unique_lock lock(m_mutex);
+    m_read.wait(lock, stop, [this] { return m_reading == 0; });
     return m_models;
 }
 
 QVariantMap EngineBackend::catalogue(const QString &modelDirectory) {
+    {
+        const std::lock_guard lock(m_mutex);
+        ++m_reading;
+    }
     const auto read =
         ModelCatalogue::read(modelDirectory, [this](const ModelDefinition &definition, QString *why) {
             return Filters::supports(definition, m_networks, why);
         });
-    if (!read->isEmpty()) {
+    {
         const std::lock_guard lock(m_mutex);
-        m_models = read;
-        m_cache.clear({}); // a model of the same name may do something else now
+        --m_reading;
+        if (!read->isEmpty()) {
+            m_models = read;
+            m_cache.clear({}); // a model of the same name may do something else now
+        }
     }
+    m_read.notify_all();
     return read->toMap();
 }
 
@@ -74,16 +89,16 @@ AutopilotAnswer EngineBackend::analyse(const EngineInput &input, const Autopilot
     AutopilotAnswer answer;
     try {
         if (!input.image || input.image->isNull()) {
-            answer.error = QStringLiteral("There is no picture to analyse");
+            answer.error = QCoreApplication::translate("Engine", "There is no picture to analyse");
             return answer;
         }
         const auto statistics = m_facts.of(input.uid, input.image, control.stop);
         if (statistics)
-            return analyseImage(input, *statistics, options, control);
+            return analyseImage(input, *statistics, *models(control.stop), options, control);
         answer.cancelled = true;
     } catch (const std::bad_alloc &) {
         answer = {};
-        answer.error = QStringLiteral("Not enough memory to analyse the picture");
+        answer.error = QCoreApplication::translate("Engine", "Not enough memory to analyse the picture");
     }
     return answer;
 }
@@ -92,7 +107,7 @@ ProcResult EngineBackend::process(const ProcRequest &request, const RunControl &
     try {
         return run(request, control);
     } catch (const std::bad_alloc &) {
-        return failed(QStringLiteral("Not enough memory to process the picture"));
+        return failed(QCoreApplication::translate("Engine", "Not enough memory to process the picture"));
     }
 }
 
@@ -101,11 +116,12 @@ ProcResult EngineBackend::run(const ProcRequest &request, const RunControl &cont
     if (control.stopped())
         return cancelled();
     if (!image || image->isNull())
-        return failed(QStringLiteral("There is no picture to process"));
+        return failed(QCoreApplication::translate("Engine", "There is no picture to process"));
     const TRect whole(0, 0, image->width(), image->height());
     const TRect region = Region::intersected(TRect(request.region), whole);
     if (region.isEmpty())
-        return failed(QStringLiteral("The region to process lies outside the picture"));
+        return failed(
+            QCoreApplication::translate("Engine", "The region to process lies outside the picture"));
 
     ImageStatistics statistics;
     if (hasEnabledFilter(request)) {
@@ -118,7 +134,7 @@ ProcResult EngineBackend::run(const ProcRequest &request, const RunControl &cont
         statistics = *measured;
     }
     StageChain chain(image);
-    const QString error = buildFilterStack(request, *models(), statistics, m_networks, chain);
+    const QString error = buildFilterStack(request, *models(control.stop), statistics, m_networks, chain);
     if (!error.isEmpty())
         return failed(error);
 

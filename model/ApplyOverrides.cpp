@@ -1,6 +1,6 @@
 #include "model/ApplyOverrides.h"
 
-#include "model/SettingsKeys.h"
+#include "contracts/FilterNames.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,11 +9,11 @@ namespace {
 enum OverrideKey { SourceIsLinear = 0, TargetIsLinear = 1, TargetFaces = 2 };
 
 bool isOnAuto(const TCategorySettings &raw) {
-    return raw.params.value(u"auto"_s).toBool();
+    return raw.params.value(Params::Auto).toBool();
 }
 
 bool isLinearOnAuto(const TCategorySettings &raw) {
-    return raw.model == "Linear RAW"_L1 && isOnAuto(raw);
+    return raw.model == Models::LinearRaw && isOnAuto(raw);
 }
 
 } // namespace
@@ -31,7 +31,7 @@ ApplyOverrides applyOverrides(const TImageSettings &source, const TImageSettings
         entry.insert(Keys::Enabled, sourceRaw.enabled || source.filter(Categories::Denoise).enabled);
         overrides.insert(sourceLinear ? SourceIsLinear : TargetIsLinear, entry);
     }
-    const QVariant faces = target.filter(Categories::FaceRecovery).params.value(Keys::SelectedFaces);
+    const QVariant faces = target.filter(Categories::FaceRecovery).params.value(Params::SelectedFaces);
     if (faces.isValid())
         overrides.insert(TargetFaces, faces);
     return overrides;
@@ -52,7 +52,7 @@ QVariantMap adjustedFilter(const TImageSettings &source, const QString &filterNa
     }
     if (filterName == Categories::FaceRecovery && overrides.contains(TargetFaces)) {
         QVariantMap params = map.value(Keys::Params).toMap();
-        params.insert(Keys::SelectedFaces, overrides.value(TargetFaces));
+        params.insert(Params::SelectedFaces, overrides.value(TargetFaces));
         map.insert(Keys::Params, params);
     }
     return map;

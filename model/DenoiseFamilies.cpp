@@ -1,4 +1,4 @@
-#include "model/SettingsKeys.h"
+#include "contracts/FilterNames.h"
 #include "model/TCategorySettings.h"
 
 using namespace Qt::StringLiterals;
@@ -8,7 +8,7 @@ QVariantMap TCategorySettings::toRawDenoise() const {
         return toMap();
     TCategorySettings raw = *this;
     raw.category = Categories::Raw;
-    raw.model = model == "Low Light Beta"_L1 ? u"RAW Native"_s : u"RAW Standard"_s;
+    raw.model = model == Models::LowLightBeta ? Models::RawNative : Models::RawStandard;
     raw.params = {{u"param1_standard"_s, params.value(u"param1_strongv2"_s)},
                   {u"param2_standard"_s, params.value(u"param2_strongv2"_s)},
                   {u"param3_standard"_s, 0.0F},
@@ -23,11 +23,11 @@ QVariantMap TCategorySettings::fromRawDenoise() const {
         return toMap();
     TCategorySettings denoise = *this;
     denoise.category = Categories::Denoise;
-    denoise.model = u"Severe Noise Beta"_s;
-    if (model == "RAW Native"_L1)
-        denoise.model = u"Low Light Beta"_s;
-    else if (model == "RAW Standard"_L1 && params.value(u"param3_standard"_s).toFloat() > 0.01F)
-        denoise.model = u"Severe Noise"_s;
+    denoise.model = Models::SevereNoiseBeta;
+    if (model == Models::RawNative)
+        denoise.model = Models::LowLightBeta;
+    else if (model == Models::RawStandard && params.value(u"param3_standard"_s).toFloat() > 0.01F)
+        denoise.model = Models::SevereNoise;
     const QVariant strength = params.value(u"param1_standard"_s);
     const QVariant deblur = params.value(u"param2_standard"_s);
     denoise.params = {{u"param1_strongv2"_s, strength},

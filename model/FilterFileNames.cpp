@@ -1,4 +1,4 @@
-#include "model/SettingsKeys.h"
+#include "contracts/FilterNames.h"
 #include "model/TImageSettings.h"
 
 using namespace Qt::StringLiterals;
@@ -11,17 +11,17 @@ bool hasRemoval(const QVariantMap &params) {
 }
 
 QString sizeSuffix(const QVariantMap &params) {
-    const QString mode = params.value(u"mode"_s).toString();
-    if (mode == "scale"_L1)
+    const QString mode = params.value(Params::Mode).toString();
+    if (mode == Params::Scale)
         return u'-' + QString::number(params.value(mode).toDouble(), 'g', 2) + u'x';
-    if (mode == "width"_L1)
+    if (mode == Params::Width)
         return u'-' + QString::number(params.value(mode).toInt()) + u'w';
-    if (mode == "height"_L1)
+    if (mode == Params::Height)
         return u'-' + QString::number(params.value(mode).toInt()) + u'h';
     return {};
 }
 
-QString word(const QString &name, const QVariantMap &params) {
+QString suffixOf(const QString &name, const QVariantMap &params) {
     if (name.contains(Categories::Denoise))
         return u"denoise"_s;
     if (name == Categories::Enhance)
@@ -51,9 +51,9 @@ QString TImageSettings::filterNamesForFilename() const {
             continue;
         if (name.contains(Categories::Inpaint) && hasRemoval(found->params))
             names += "-remove"_L1;
-        // The hyphen stands for every active filter, also for one without a word: the string tells
+        // The hyphen stands for every active filter, also for one without a suffix: the string tells
         // whether any filter is active.
-        names += u'-' + word(name, found->params);
+        names += u'-' + suffixOf(name, found->params);
     }
     return names;
 }

@@ -1,7 +1,7 @@
 #include "model/SettingsMatching.h"
 
+#include "contracts/FilterNames.h"
 #include "model/EnhanceLimits.h"
-#include "model/SettingsKeys.h"
 #include "model/TCategorySettings.h"
 
 #include <cmath>
@@ -17,14 +17,14 @@ double hundredths(const QVariant &value) {
 
 bool matchParams(const QString &category, const QVariantMap &own, QVariantMap given) {
     QVariantMap size;
-    for (const QString &key : {u"mode"_s, u"height"_s, u"width"_s, u"scale"_s}) {
+    for (const QString &key : {Params::Mode, Params::Height, Params::Width, Params::Scale}) {
         if (given.contains(key))
             size.insert(key, given.take(key));
     }
     if (category == Categories::Enhance && !sameEnhanceSize(own, size))
         return false;
     for (const auto &[key, value] : given.asKeyValueRange()) {
-        if (key == Keys::Strokes || key == "mask"_L1 || key == "locked"_L1)
+        if (key == Params::Strokes || key == Params::Mask || key == Params::Locked)
             continue;
         if (!fuzzyEquals(own.value(key), value))
             return false;
@@ -41,17 +41,17 @@ bool fuzzyEquals(const QVariant &first, const QVariant &second) {
 }
 
 bool sameEnhanceSize(const QVariantMap &own, const QVariantMap &given) {
-    const QVariant mode = own.value(u"mode"_s);
-    if (mode != given.value(u"mode"_s))
+    const QVariant mode = own.value(Params::Mode);
+    if (mode != given.value(Params::Mode))
         return false;
     const double ownSize = own.value(mode.toString()).toDouble();
     const double givenSize = given.value(mode.toString()).toDouble();
     const auto atMost = [&given](const QString &key) {
         return given.value(key).toDouble() >= EnhanceLimits::PixelMax;
     };
-    if (ownSize > givenSize && (atMost(u"height"_s) || atMost(u"width"_s)))
+    if (ownSize > givenSize && (atMost(Params::Height) || atMost(Params::Width)))
         return true;
-    if (givenSize > ownSize && given.value(u"scale"_s).toDouble() <= EnhanceLimits::ScaleMin)
+    if (givenSize > ownSize && given.value(Params::Scale).toDouble() <= EnhanceLimits::ScaleMin)
         return true;
     return fuzzyEquals(ownSize, givenSize);
 }

@@ -1,6 +1,6 @@
 #include "model/TCategorySettings.h"
 
-#include "model/SettingsKeys.h"
+#include "contracts/FilterNames.h"
 
 #include <QJSValue>
 
@@ -81,6 +81,6 @@ void TCategorySettings::resetSubject(const QString &type) {
     subjectSettings.insert(Keys::Model, type);
     subjectSettings.insert(u"sensitivity"_s, 0.5);
     subjectSettings.insert(u"feathering"_s, 1);
-    subjectSettings.insert(Keys::Strokes, QVariantList());
+    subjectSettings.insert(Params::Strokes, QVariantList());
     subjectSettings.insert(u"originalSubjectPath"_s, u""_s);
 }

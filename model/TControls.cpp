@@ -1,7 +1,7 @@
 #include "model/TControls.h"
 
+#include "contracts/FilterNames.h"
 #include "frontends/TImageUtils.h"
-#include "model/SettingsKeys.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,7 +33,7 @@ QString TControls::currentModel() const {
 
 QVariantMap TControls::currentGui() const {
     const QVariantMap models = m_modelParamInfo.value(m_currentCategory).toMap();
-    return models.value(currentModel()).toMap().value(u"gui"_s).toMap();
+    return models.value(currentModel()).toMap().value(Keys::Gui).toMap();
 }
 
 bool TControls::isRaw() const {

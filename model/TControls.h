@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/CategoryNames.h"
 #include "model/EnhanceLimits.h"
 #include "model/OrderedSet.h"
 #include "model/TImageSettings.h"
@@ -41,6 +42,8 @@ class TControls : public QObject {
     Q_PROPERTY(bool areFiltersEnabled READ areFiltersEnabled NOTIFY areFiltersEnabledChanged)
     Q_PROPERTY(QStringList filterOrder READ filterOrder WRITE setFilterOrder NOTIFY filterOrderChanged)
     Q_PROPERTY(QVariantMap modelNames READ modelNames NOTIFY modelNamesChanged)
+    Q_PROPERTY(CategoryNames categories READ categories CONSTANT)
+    Q_PROPERTY(QStringList processingOrder READ processingOrder CONSTANT)
     Q_PROPERTY(double ENHANCE_SCALE_MIN READ enhMinScale CONSTANT)
     Q_PROPERTY(int ENHANCE_PIXEL_MAX READ enhMaxPx CONSTANT)
     Q_PROPERTY(QList<QVariantMap> autoPilotSuggestionOrder READ autoPilotSuggestionOrder WRITE
@@ -129,6 +132,11 @@ public:
     Q_INVOKABLE void setCrop(const QRectF &cropRoi, double rotation);
     Q_INVOKABLE void setCropRatio(const QSizeF &cropRatio);
     Q_INVOKABLE void setResolution(float resolution);
+
+    // The vocabulary of filters
+    CategoryNames categories() const { return {}; }
+    /// The categories that Autopilot puts on a picture, in the order in which they run.
+    QStringList processingOrder() const { return Categories::processingOrder(); }
 
     // The catalogue of models, from the engine
     QVariantMap modelParamInfo() const { return m_modelParamInfo; }

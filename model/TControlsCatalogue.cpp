@@ -5,10 +5,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QVariantMap defaultsOf(const QVariantMap &modelEntry) {
-    const QVariantMap parameters = modelEntry.value(u"gui"_s).toMap().value(u"parameters"_s).toMap();
+    const QVariantMap parameters = modelEntry.value(Keys::Gui).toMap().value(Keys::Parameters).toMap();
     QVariantMap defaults;
     for (const auto &[name, entry] : parameters.asKeyValueRange())
-        defaults.insert(name, entry.toMap().value(u"default"_s, 0));
+        defaults.insert(name, entry.toMap().value(Keys::Default, 0));
     return defaults;
 }
 

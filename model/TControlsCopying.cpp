@@ -1,6 +1,6 @@
+#include "contracts/FilterNames.h"
 #include "frontends/TImageUtils.h"
 #include "model/ApplyOverrides.h"
-#include "model/SettingsKeys.h"
 #include "model/TControls.h"
 
 #include <QDebug>
@@ -52,7 +52,7 @@ bool TControls::applyCurrentControlsToImage(const QString &imagePath, bool allow
 
     bool changed = false;
     for (const QString &name : source.filterOrder) {
-        if (name == Categories::Raw && (!targetIsRaw || target.filter(name).model == "Linear RAW"_L1))
+        if (name == Categories::Raw && (!targetIsRaw || target.filter(name).model == Models::LinearRaw))
             continue;
         changed |= target.mergeFilter(name, adjustedFilter(source, name, overrides));
         if (changed && !order.contains(name))

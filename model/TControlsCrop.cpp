@@ -28,5 +28,5 @@ void TControls::setCropRatio(const QSizeF &cropRatio) {
 }
 
 void TControls::setResolution(float resolution) {
-    storeInCurrentImageData({{u"resolution"_s, resolution}});
+    storeInCurrentImageData({{Params::Resolution, resolution}});
 }

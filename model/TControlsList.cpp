@@ -1,5 +1,5 @@
+#include "contracts/FilterNames.h"
 #include "frontends/TImageUtils.h"
-#include "model/SettingsKeys.h"
 #include "model/TControls.h"
 #include "system/OSUtils.h"
 

@@ -1,4 +1,4 @@
-#include "model/SettingsKeys.h"
+#include "contracts/FilterNames.h"
 #include "model/TControls.h"
 
 using namespace Qt::StringLiterals;
@@ -31,5 +31,5 @@ bool TControls::isSubjectModified(const QString &imageUrl) const {
         return false;
     // The top level of a controls map holds no subject, so that no image counts as yet.
     const QVariantMap subject = settingsOf(imageUrl).toMap().value(Keys::SubjectSettings).toMap();
-    return !subject.value(Keys::Strokes).toList().isEmpty();
+    return !subject.value(Params::Strokes).toList().isEmpty();
 }

@@ -1,6 +1,6 @@
 #include "model/TImageSettings.h"
 
-#include "model/SettingsKeys.h"
+#include "contracts/FilterNames.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,13 +22,13 @@ QVariantMap TImageSettings::toMap() const {
         map.insert(map.cend(), name, filter.toMap());
     map.insert(Keys::AutoPilot, int(autoPilot));
     map.insert(Keys::AutoPilotSettings, autoPilotSettings);
-    map.insert(u"justSaved"_s, justSaved);
-    map.insert(u"noise_level"_s, int(noise_level));
-    map.insert(u"blur_level"_s, int(blur_level));
+    map.insert(Keys::JustSaved, justSaved);
+    map.insert(Keys::NoiseLevel, int(noise_level));
+    map.insert(Keys::BlurLevel, int(blur_level));
     map.insert(u"applyAutopilotOnceCalculated"_s, applyAutopilotOnceCalculated);
     map.insert(u"presetApplied"_s, presetApplied);
     map.insert(u"presetAppliedNoModifications"_s, presetAppliedNoModifications);
-    map.insert(u"changesCount"_s, int(changesCount));
+    map.insert(Keys::ChangesCount, int(changesCount));
     map.insert(u"initialFiltersApplied"_s, initialFiltersApplied);
     return map;
 }

@@ -1,4 +1,4 @@
-#include "model/SettingsKeys.h"
+#include "contracts/FilterNames.h"
 #include "model/TImageSettings.h"
 
 #include <QSet>

@@ -1,5 +1,7 @@
 #include "presets/TFilterGenerator.h"
 
+#include "contracts/FilterNames.h"
+
 #include <QDebug>
 #include <QFile>
 #include <QJsonArray>
@@ -16,15 +18,15 @@ namespace {
 
 constexpr int DrawnFrom = 3;
 
-/// The table's names for the filter categories.
-QString categoryOf(const QString &word) {
+/// The table has names of its own for the categories.
+QString categoryOf(const QString &name) {
     static const QMap<QString, QString> names = {
-        {u"SHARPEN"_s, u"Sharpen"_s},          {u"DENOISE"_s, u"Denoise"_s},
-        {u"UPSCALE"_s, u"Enhance"_s},          {u"FACE"_s, u"Face Recovery"_s},
-        {u"EXPOSURE"_s, u"Exposure Adjust"_s}, {u"REMOVE"_s, u"Inpaint"_s},
-        {u"TEXT"_s, u"Text Recovery"_s},       {u"TEMPERATURE"_s, u"White Balance Adjust"_s},
+        {u"SHARPEN"_s, Categories::Sharpen},   {u"DENOISE"_s, Categories::Denoise},
+        {u"UPSCALE"_s, Categories::Enhance},   {u"FACE"_s, Categories::FaceRecovery},
+        {u"EXPOSURE"_s, Categories::Exposure}, {u"REMOVE"_s, Categories::Inpaint},
+        {u"TEXT"_s, Categories::TextRecovery}, {u"TEMPERATURE"_s, Categories::WhiteBalance},
     };
-    return names.value(word, word);
+    return names.value(name, name);
 }
 
 QString translated(const QString &name) {

@@ -40,13 +40,14 @@ cv::Mat inBytes(const cv::Mat &picture) {
 
 /// The case's filter with the slider where Autopilot puts it for this picture.
 Filter automatic(const Case &one, const cv::Mat &damaged) {
+    static const auto models = ModelCatalogue::read(QStringLiteral(ORVANE_MODELS));
     EngineInput input;
     input.image = toImage(damaged);
     input.isRaw = one.file != File::Picture;
     input.metadata[u"linearRaw"_s] = one.file == File::LinearRaw;
     Filter filter = one.settings.front();
     const QVariantMap found =
-        analyseImage(input, measureImage(*input.image, {}), {}, {}).settings[filter.category].toMap();
+        analyseImage(input, measureImage(*input.image, {}), *models, {}, {}).settings[filter.category].toMap();
     for (auto value = filter.params.begin(); value != filter.params.end(); ++value)
         *value = found.value(value.key(), *value);
     return filter;

@@ -3,6 +3,11 @@
 #include "contracts/Autopilot.h"
 #include "contracts/ProcessingBackend.h"
 #include "engine/analysis/ImageStatistics.h"
+#include "engine/catalogue/ModelCatalogue.h"
+#include "engine/catalogue/Roles.h"
+
+#include <functional>
+#include <optional>
 
 namespace Analysis {
 
@@ -44,9 +49,25 @@ struct Advice {
 struct AdviceInput {
     const EngineInput &image;
     const ImageStatistics &statistics;
+    const ModelCatalogue &models;
     const Autopilot::Preferences &preferences;
     Findings findings;
 };
+
+/// What a parameter of a model should be, by its role; nothing leaves it at its default.
+using ValueOf = std::function<std::optional<double>(const ModelDefinition &, const ParameterDefinition &)>;
+
+/// The same values for every model.
+ValueOf byRole(const QMap<QString, double> &values);
+
+/// Gives the parameters of every model of the category a value within their ranges, so that a model chosen
+/// by hand starts well, too. Where models share a name, the recommended model's value stands.
+void adviseParameters(const AdviceInput &input, const ValueOf &valueOf, Advice &advice);
+
+/// The strength at which the model takes away what was measured, in the units of ModelDefinition::reach;
+/// the smallest one where its definition doesn't say.
+double strengthFor(const ModelDefinition *model, ModelDefinition::Fault fault, double measured,
+                   const QStringList &flags = {});
 
 /// "RAW" for camera files, otherwise "Denoise".
 Advice adviseNoise(const AdviceInput &input);
@@ -61,7 +82,7 @@ Advice adviseColour(const AdviceInput &input);
 void settleConflict(const AdviceInput &input, Advice &noise, Advice &sharpen);
 
 /// Denoise runs first and leaves nothing that Sharpen would have to take away.
-void leaveToDenoising(const Advice &noise, Advice &sharpen);
+void leaveToDenoising(const AdviceInput &input, const Advice &noise, Advice &sharpen);
 
 /// Upscaling treats moderate noise and blur itself: switches the filters off that would do so.
 void leaveToUpscaling(const AdviceInput &input, const Advice &size, Advice &noise, Advice &sharpen);

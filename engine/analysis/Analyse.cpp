@@ -1,7 +1,10 @@
 #include "engine/analysis/Analyse.h"
 
+#include "contracts/FilterNames.h"
 #include "engine/analysis/Advice.h"
 #include "engine/analysis/Thresholds.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -23,24 +26,15 @@ void settleConflict(const AdviceInput &input, Advice &noise, Advice &sharpen) {
                              : QStringLiteral("Sharpening comes before the little noise");
 }
 
-void leaveToDenoising(const Advice &noise, Advice &sharpen) {
-    if (!noise.enabled)
-        return;
-    for (auto [key, value] : sharpen.parameters.asKeyValueRange()) {
-        if (key == QStringLiteral("param1") || key.endsWith(QStringLiteral("_noise")))
-            value = SmallestStrength;
-    }
-}
-
 void leaveToUpscaling(const AdviceInput &input, const Advice &size, Advice &noise, Advice &sharpen) {
     using Autopilot::Level;
-    if (!size.enabled || size.parameters.value(QStringLiteral("scale")).toDouble() <= 1)
+    if (!size.enabled || size.parameters.value(Params::Scale).toDouble() <= 1)
         return;
     const auto leave = [](Advice &advice, const QString &reason) {
         if (!advice.enabled)
             return;
         advice.enabled = false;
-        advice.parameters.insert(QStringLiteral("deselectedByUpscaling"), true);
+        advice.parameters.insert(Params::DeselectedByUpscaling, true);
         advice.reason = reason;
     };
     if (input.findings.noiseLevel <= Level::Medium && !input.image.isRaw)
@@ -58,14 +52,14 @@ using namespace Analysis;
 
 QVariantMap entryOf(const Advice &advice) {
     QVariantMap entry = advice.parameters;
-    entry.insert(QStringLiteral("enabled"), advice.enabled);
-    entry.insert(QStringLiteral("model"), advice.model);
+    entry.insert(Keys::Enabled, advice.enabled);
+    entry.insert(Keys::Model, advice.model);
     return entry;
 }
 
 QVariantMap problemsOf(const Findings &findings, bool facesSought) {
-    return {{QStringLiteral("noise_level"), int(findings.noiseLevel)},
-            {QStringLiteral("blur_level"), int(findings.blurLevel)},
+    return {{Keys::NoiseLevel, int(findings.noiseLevel)},
+            {Keys::BlurLevel, int(findings.blurLevel)},
             {QStringLiteral("ap_params"), QVariantMap{{QStringLiteral("noise"), shownNoise(findings.noise)},
                                                       {QStringLiteral("blur"), shownBlur(findings.blur)}}},
             {QStringLiteral("autoFaces"), QVariantList()},
@@ -79,23 +73,24 @@ QVariantMap problemsOf(const Findings &findings, bool facesSought) {
 } // namespace
 
 AutopilotAnswer analyseImage(const EngineInput &input, const ImageStatistics &statistics,
-                             const AutopilotOptions &options, const RunControl &control) {
+                             const ModelCatalogue &models, const AutopilotOptions &options,
+                             const RunControl &control) {
     AutopilotAnswer answer;
     if (control.stopped()) {
         answer.cancelled = true;
         return answer;
     }
     if (statistics.width <= 0 || statistics.height <= 0) {
-        answer.error = QStringLiteral("There is no picture to analyse");
+        answer.error = QCoreApplication::translate("Engine", "There is no picture to analyse");
         return answer;
     }
     control.report(0.8, QStringLiteral("final"));
-    const AdviceInput advised = {input, statistics, options.preferences, findingsOf(statistics)};
+    const AdviceInput advised = {input, statistics, models, options.preferences, findingsOf(statistics)};
     Advice noise = adviseNoise(advised);
     Advice sharpen = adviseSharpen(advised);
     settleConflict(advised, noise, sharpen);
     leaveToUpscaling(advised, adviseSize(advised, false, false), noise, sharpen);
-    leaveToDenoising(noise, sharpen);
+    leaveToDenoising(advised, noise, sharpen);
     const Advice size = adviseSize(advised, noise.enabled, sharpen.enabled);
 
     QVariantMap reasons;

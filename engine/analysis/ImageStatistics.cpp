@@ -3,7 +3,7 @@
 #include "engine/analysis/Blur.h"
 #include "engine/analysis/BlurShape.h"
 #include "engine/analysis/Compression.h"
-#include "engine/analysis/Drawn.h"
+#include "engine/analysis/Drawings.h"
 #include "engine/analysis/Noise.h"
 #include "engine/analysis/Sampling.h"
 #include "engine/analysis/Smoothing.h"
@@ -22,7 +22,7 @@ ImageStatistics measureImage(const ImageData &image, std::stop_token stop) {
     const std::vector<Crop> busy = busyTiles(image, stop);
     const BlurLevels blur = measureBlur(busy, noise.luma, stop);
     const BlurShape shape = findBlurShape(busy, noise.luma, stop);
-    const float drawn = measureDrawn(busy, stop);
+    const float drawing = measureDrawing(busy, stop);
     if (stop.stop_requested())
         return answer;
     const Crop small = readSmall(image, SmallSide);
@@ -44,7 +44,7 @@ ImageStatistics measureImage(const ImageData &image, std::stop_token stop) {
     answer.defocusRadius = shape.radius;
     answer.motionLength = shape.length;
     answer.motionAngle = shape.angle;
-    answer.drawn = drawn;
+    answer.drawing = drawing;
     answer.jpegQuality = compression.quality;
     answer.blockiness = compression.blockiness;
     answer.lumaLow = tones.low;

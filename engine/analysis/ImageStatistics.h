@@ -38,7 +38,7 @@ struct ImageStatistics {
     float motionAngle = 0;   ///< its direction, radians in [0, pi), counter-clockwise from the x axis
     float edgeShare = 0;     ///< share of pixels on clear edges; blur is a guess where this is tiny
 
-    float drawn = 0; ///< 0 to 1: how far the picture is a drawing or a screenshot and no photograph
+    float drawing = 0; ///< 0 to 1: how far the picture is a drawing or a screenshot and no photograph
 
     int jpegQuality = 100; ///< 1 to 100 on the usual scale, as far as traces are left; 100: none
     float blockiness = 0;  ///< mean step across 8 x 8 borders beyond that inside the blocks

@@ -1,6 +1,6 @@
+#include "contracts/FilterNames.h"
 #include "engine/analysis/Advice.h"
 #include "engine/analysis/Thresholds.h"
-#include "engine/filters/StrengthScale.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,8 +20,11 @@ constexpr double ShareOfDefocus = 0.97;
 
 /// Smears a little longer than the model knows are taken back as far as it goes. Of longer ones it would
 /// make something else: edges alone are helped, as a short smear's.
-constexpr double LongestSmear = 1.2 * StrengthScale::sharpenMotion.maximum;
+constexpr double LongestSmear = 1.2; ///< of the model's longest
 constexpr double ShortSmear = 3;
+/// The spread of a disc is this share of its radius, that of a line this one of its length.
+constexpr double DiscSpread = 0.5;
+const double LineSpread = 1 / std::sqrt(12.0);
 
 /// A sharpening type as the preferences and the sliders know it.
 struct Type {
@@ -29,34 +32,34 @@ struct Type {
     QString model;
     bool lens;
     QString prefix; ///< of the pair of parameters that remembers its sliders
-    double blur;    ///< its strength
+    double spread;  ///< of the blur that it takes back
 };
 
-double sliderValue(const StrengthScale::Linear &scale, double width) {
-    return std::max(SmallestStrength, scale.strength(width));
+QStringList flagsOf(const Type &type) {
+    return type.lens ? QStringList{Roles::Lens} : QStringList();
 }
 
-/// `factor` is the preference's; a defocus disk looks like a Gaussian of half its radius, a smear like
-/// one of its length over the root of twelve.
+double reachOf(const AdviceInput &input, const QString &name) {
+    const ModelDefinition *model = input.models.find(Categories::Sharpen, name);
+    return model ? model->reach(ModelDefinition::Blur) : 0;
+}
+
+/// `factor` is the preference's.
 std::array<Type, 5> typesFor(const AdviceInput &input, double blur, double factor) {
     const ImageStatistics &s = input.statistics;
-    const double radius = s.defocusRadius > 0 ? factor * ShareOfDefocus * double(s.defocusRadius) : 2 * blur;
+    const double disc =
+        s.defocusRadius > 0 ? factor * ShareOfDefocus * double(s.defocusRadius) * DiscSpread : blur;
     const double length = s.motionLength;
-    const double smear =
-        length > 0 ? factor * (length > LongestSmear ? ShortSmear : length) : blur * std::sqrt(12.0);
-    const double standard = sliderValue(StrengthScale::sharpenStandard, blur);
-    return {{{QStringLiteral("standard"), QStringLiteral("Sharpen Standard v2"), false, QStringLiteral("std"),
-              standard},
-             {QStringLiteral("smallblur"), QStringLiteral("Sharpen Standard v2"), false,
-              QStringLiteral("smb"), standard},
-             {QStringLiteral("strong"), QStringLiteral("Sharpen Strong"), false, QStringLiteral("stg"),
-              sliderValue(StrengthScale::sharpenStrong, blur)},
-             {QStringLiteral("lensblur"), QStringLiteral("Sharpen Standard"), true, QStringLiteral("slens"),
-              sliderValue(StrengthScale::sharpenLens, radius)},
-             {QStringLiteral("motionblur"), QStringLiteral("Sharpen Standard"), false, QStringLiteral("smot"),
-              sliderValue(StrengthScale::sharpenMotion, smear)}}};
+    const bool tooLong = length * LineSpread > LongestSmear * reachOf(input, Models::SharpenStandard);
+    const double line = length > 0 ? factor * (tooLong ? ShortSmear : length) * LineSpread : blur;
+    return {{{QStringLiteral("standard"), Models::SharpenStandardV2, false, QStringLiteral("std"), blur},
+             {QStringLiteral("smallblur"), Models::SharpenStandardV2, false, QStringLiteral("smb"), blur},
+             {QStringLiteral("strong"), Models::SharpenStrong, false, QStringLiteral("stg"), blur},
+             {QStringLiteral("lensblur"), Models::SharpenStandard, true, QStringLiteral("slens"), disc},
+             {QStringLiteral("motionblur"), Models::SharpenStandard, false, QStringLiteral("smot"), line}}};
 }
 
+/// The name of a type, or of a model that has none.
 QString wantedType(const AdviceInput &input) {
     const QString &wanted = input.preferences.sharpeningModel;
     if (wanted == QStringLiteral("smallblur"))
@@ -69,8 +72,8 @@ QString wantedType(const AdviceInput &input) {
     case BlurKind::Defocus:
         return QStringLiteral("lensblur");
     case BlurKind::Soft:
-        return input.findings.blur > StrengthScale::sharpenStandard.maximum ? QStringLiteral("strong")
-                                                                            : QStringLiteral("standard");
+        return input.findings.blur > reachOf(input, Models::SharpenStandardV2) ? QStringLiteral("strong")
+                                                                               : QStringLiteral("standard");
     case BlurKind::Unknown:
         break;
     }
@@ -85,6 +88,9 @@ QString reasonFor(BlurKind kind) {
                                      : QStringLiteral("The sharpest edges are wide");
 }
 
+const QString BlurSuffix = QStringLiteral("_blur");
+const QString NoiseSuffix = QStringLiteral("_noise");
+
 } // namespace
 
 Advice adviseSharpen(const AdviceInput &input) {
@@ -97,21 +103,31 @@ Advice adviseSharpen(const AdviceInput &input) {
     const double noise = std::clamp(input.findings.noise / MostDenoise, SmallestStrength, 1.0);
 
     Advice advice;
-    advice.category = QStringLiteral("Sharpen");
+    advice.category = Categories::Sharpen;
     advice.enabled = levels.contains(nameOf(input.findings.blurLevel));
     const std::array<Type, 5> types = typesFor(input, blur, factor);
-    const Type *chosen = &types.front();
     const QString wanted = wantedType(input);
+    Type chosen = types.front();
+    if (const ModelDefinition *other = input.models.find(Categories::Sharpen, wanted))
+        chosen.model = other->model;
     for (const Type &type : types) {
-        advice.parameters.insert(type.prefix + QStringLiteral("_blur"), type.blur);
-        advice.parameters.insert(type.prefix + QStringLiteral("_noise"), noise);
+        const ModelDefinition *model = input.models.find(Categories::Sharpen, type.model);
+        advice.parameters.insert(type.prefix + BlurSuffix,
+                                 strengthFor(model, ModelDefinition::Blur, type.spread, flagsOf(type)));
+        advice.parameters.insert(type.prefix + NoiseSuffix, noise);
         if (type.name == wanted)
-            chosen = &type;
+            chosen = type;
     }
-    advice.model = chosen->model;
-    advice.parameters.insert(QStringLiteral("isLens"), chosen->lens);
-    advice.parameters.insert(QStringLiteral("param1"), noise);
-    advice.parameters.insert(QStringLiteral("param2"), chosen->blur);
+    advice.model = chosen.model;
+    const auto valueOf = [&](const ModelDefinition &model,
+                             const ParameterDefinition &parameter) -> std::optional<double> {
+        if (parameter.role == Roles::Strength)
+            return strengthFor(&model, ModelDefinition::Blur, chosen.spread, flagsOf(chosen));
+        if (parameter.role == Roles::Lens)
+            return chosen.lens;
+        return parameter.role == Roles::Denoise ? std::optional(noise) : std::nullopt;
+    };
+    adviseParameters(input, valueOf, advice);
     advice.measured = found;
     advice.threshold = levels.contains(QStringLiteral("low"))      ? Thresholds::BlurLow
                        : levels.contains(QStringLiteral("medium")) ? Thresholds::BlurMedium
@@ -123,6 +139,19 @@ Advice adviseSharpen(const AdviceInput &input) {
     else
         advice.reason = QStringLiteral("There is less blur than the preferences ask for");
     return advice;
+}
+
+void leaveToDenoising(const AdviceInput &input, const Advice &noise, Advice &sharpen) {
+    if (!noise.enabled)
+        return;
+    for (const ModelDefinition &model : input.models.models(sharpen.category)) {
+        if (const ParameterDefinition *parameter = model.byRole(Roles::Denoise))
+            sharpen.parameters.insert(parameter->name, parameter->limited(SmallestStrength));
+    }
+    for (auto [key, value] : sharpen.parameters.asKeyValueRange()) {
+        if (key.endsWith(NoiseSuffix))
+            value = SmallestStrength;
+    }
 }
 
 } // namespace Analysis

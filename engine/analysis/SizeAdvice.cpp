@@ -1,3 +1,4 @@
+#include "contracts/FilterNames.h"
 #include "engine/analysis/Advice.h"
 #include "engine/analysis/Thresholds.h"
 
@@ -17,7 +18,7 @@ enum Unit { Pixels = 1, Inches = 2, Centimetres = 3 };
 
 struct Size {
     bool wanted = false;
-    QString mode = QStringLiteral("scale");
+    QString mode = Params::Scale;
     double scale = StartScale;
     QString reason;
 };
@@ -45,7 +46,7 @@ Size sideScale(const AdviceInput &input, bool isWidth, double side) {
     const Autopilot::Preferences &preferences = input.preferences;
     const double unit = preferences.resolutionUnit == Pixels ? 1 : density(input);
     Size size;
-    size.mode = isWidth ? QStringLiteral("width") : QStringLiteral("height");
+    size.mode = isWidth ? Params::Width : Params::Height;
     size.scale = std::max(1.0, double(preferences.upscalingFactor) * unit) / side;
     size.wanted = size.scale > 1 || preferences.enableDownscaling;
     size.reason = size.wanted ? QStringLiteral("The preferences ask for this size")
@@ -85,8 +86,8 @@ Size wantedSize(const AdviceInput &input) {
     } else {
         size.reason = QStringLiteral("The preferences leave the size alone");
     }
-    if (!size.wanted && size.mode != QStringLiteral("scale")) {
-        size.mode = QStringLiteral("scale");
+    if (!size.wanted && size.mode != Params::Scale) {
+        size.mode = Params::Scale;
         size.scale = StartScale;
     }
     if (!(size.scale > 0))
@@ -102,13 +103,12 @@ QString modelFor(const AdviceInput &input) {
         return input.preferences.upscalingModel;
     const int quality = input.statistics.jpegQuality;
     if (quality < Thresholds::PoorQuality)
-        return QStringLiteral("Low Resolution");
-    if (input.statistics.drawn >= Thresholds::DrawnShare)
-        return QStringLiteral("CGI");
+        return Models::LowResolution;
+    if (input.statistics.drawing >= Thresholds::DrawingShare)
+        return Models::Graphics;
     const bool clean = input.findings.noiseLevel == Autopilot::Level::None &&
                        input.findings.blurLevel == Autopilot::Level::None;
-    return clean && quality >= Thresholds::FineQuality ? QStringLiteral("High Fidelity V2")
-                                                       : QStringLiteral("Standard V2");
+    return clean && quality >= Thresholds::FineQuality ? Models::HighFidelityV2 : Models::StandardV2;
 }
 
 } // namespace
@@ -124,22 +124,22 @@ Advice adviseSize(const AdviceInput &input, bool denoised, bool deblurred) {
     const double quality = input.statistics.jpegQuality;
 
     Advice advice;
-    advice.category = QStringLiteral("Enhance");
+    advice.category = Categories::Enhance;
     advice.enabled = size.wanted;
     advice.model = modelFor(input);
     const bool ownResolution = preferences.resolution > 0;
     advice.parameters = {
-        {QStringLiteral("mode"), size.mode},
-        {QStringLiteral("scale"), size.scale},
-        {QStringLiteral("width"), std::max(1, int(std::lround(input.statistics.width * size.scale)))},
-        {QStringLiteral("height"), std::max(1, int(std::lround(input.statistics.height * size.scale)))},
-        {QStringLiteral("resolution"),
-         ownResolution ? double(preferences.resolution) : input.image.resolution},
-        {QStringLiteral("resolutionUnit"),
-         ownResolution ? preferences.resolutionUnit : input.image.resolutionUnit},
-        {QStringLiteral("param1"), strength(noise, preferences.upscalingParam1Strength)},
-        {QStringLiteral("param2"), strength(blur, preferences.upscalingParam2Strength)},
-        {QStringLiteral("param3"), std::clamp((100 - quality) / 100, SmallestStrength, 1.0)}};
+        {Params::Mode, size.mode},
+        {Params::Scale, size.scale},
+        {Params::Width, std::max(1, int(std::lround(input.statistics.width * size.scale)))},
+        {Params::Height, std::max(1, int(std::lround(input.statistics.height * size.scale)))},
+        {Params::Resolution, ownResolution ? double(preferences.resolution) : input.image.resolution},
+        {Params::ResolutionUnit, ownResolution ? preferences.resolutionUnit : input.image.resolutionUnit}};
+    adviseParameters(input,
+                     byRole({{Roles::Denoise, strength(noise, preferences.upscalingParam1Strength)},
+                             {Roles::Deblur, strength(blur, preferences.upscalingParam2Strength)},
+                             {Roles::Compression, (100 - quality) / 100}}),
+                     advice);
     advice.measured = double(input.statistics.width) * input.statistics.height;
     advice.threshold = Thresholds::UpscaledPixels / (Thresholds::LeastUpscale * Thresholds::LeastUpscale);
     advice.reason = size.reason;

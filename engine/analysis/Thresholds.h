@@ -51,7 +51,7 @@ inline constexpr double RestingBlur = 0.8;
 
 /// From this share of flat colour beside edges on, a picture is a drawing or a screenshot. The photographs
 /// have none, others reduced by four 0.07 at most; drawings with edges and without dither 0.16 and more.
-inline constexpr float DrawnShare = 0.13f;
+inline constexpr float DrawingShare = 0.13f;
 
 // Compression: below this quality blocks and ringing are seen at 100 %.
 inline constexpr int PoorQuality = 50;

@@ -1,3 +1,4 @@
+#include "contracts/FilterNames.h"
 #include "engine/analysis/Advice.h"
 #include "engine/analysis/Thresholds.h"
 
@@ -5,6 +6,16 @@
 #include <cmath>
 
 namespace Analysis {
+
+namespace {
+
+/// No choice of models is offered here: the first one.
+QString onlyModel(const AdviceInput &input, const QString &category) {
+    const ModelDefinition *model = input.models.find(category, {});
+    return model ? model->model : QString();
+}
+
+} // namespace
 
 Advice adviseExposure(const AdviceInput &input) {
     const ImageStatistics &s = input.statistics;
@@ -16,10 +27,10 @@ Advice adviseExposure(const AdviceInput &input) {
     const bool hasContrast = s.lumaHigh - s.lumaLow > 0.05f;
 
     Advice advice;
-    advice.category = QStringLiteral("Exposure Adjust");
-    advice.model = QStringLiteral("Exposure Standard");
+    advice.category = Categories::Exposure;
+    advice.model = onlyModel(input, advice.category);
     advice.enabled = (dark || bright) && hasContrast && !input.image.isRaw;
-    advice.parameters = {{QStringLiteral("param1"), std::clamp(strength, -25, 75) / 100.0}};
+    adviseParameters(input, byRole({{Roles::Strength, strength / 100.0}}), advice);
     advice.measured = double(s.lumaMedian);
     advice.threshold = s.lumaMedian > 0.5f ? Thresholds::BrightMedian : Thresholds::DarkMedian;
     advice.reason = dark     ? QStringLiteral("The picture is dark throughout")
@@ -35,13 +46,14 @@ Advice adviseColour(const AdviceInput &input) {
         cast = std::max(cast, std::abs(std::log(std::max(0.01, double(channel)))));
 
     Advice advice;
-    advice.category = QStringLiteral("White Balance Adjust");
-    advice.model = QStringLiteral("White Balance Standard");
+    advice.category = Categories::WhiteBalance;
+    advice.model = onlyModel(input, advice.category);
     advice.enabled = cast >= Thresholds::Cast && double(s.castConfidence) >= Thresholds::CastConfidence &&
                      !input.image.isRaw;
-    advice.parameters = {
-        {QStringLiteral("temperature"), std::clamp(input.preferences.temperatureValue, 1, 100) / 100.0},
-        {QStringLiteral("strength"), std::clamp(input.preferences.opacityValue, 1, 100) / 100.0}};
+    adviseParameters(input,
+                     byRole({{Roles::Temperature, input.preferences.temperatureValue / 100.0},
+                             {Roles::Opacity, input.preferences.opacityValue / 100.0}}),
+                     advice);
     advice.measured = cast;
     advice.threshold = Thresholds::Cast;
     advice.reason = advice.enabled ? QStringLiteral("The light has a colour")

@@ -10,13 +10,15 @@ set(ORVANE_ANALYSIS_SOURCES
   analysis/ChromaBlotches.cpp analysis/ChromaBlotches.h
   analysis/ClippedNoise.cpp analysis/ClippedNoise.h
   analysis/Compression.cpp analysis/Compression.h
-  analysis/Drawn.cpp analysis/Drawn.h
+  analysis/Drawings.cpp analysis/Drawings.h
   analysis/EdgeWidths.cpp analysis/EdgeWidths.h
   analysis/Findings.cpp
+  analysis/ImageFacts.cpp analysis/ImageFacts.h
   analysis/ImageStatistics.cpp analysis/ImageStatistics.h
   analysis/Noise.cpp analysis/Noise.h
   analysis/NoiseAdvice.cpp
   analysis/NoiseVariance.cpp analysis/NoiseVariance.h
+  analysis/ParameterAdvice.cpp
   analysis/Planes.cpp analysis/Planes.h
   analysis/PowerSpectrum.cpp analysis/PowerSpectrum.h
   analysis/Sampling.cpp analysis/Sampling.h

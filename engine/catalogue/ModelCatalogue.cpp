@@ -1,5 +1,8 @@
 #include "engine/catalogue/ModelCatalogue.h"
 
+#include "contracts/FilterNames.h"
+
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
@@ -32,7 +35,8 @@ QString placeNetworks(ModelDefinition &definition, const QString &path, const QS
     for (NetworkDefinition &network : definition.networks) {
         network.path = QDir::cleanPath(QFileInfo(path).absoluteDir().absoluteFilePath(network.file));
         if (!network.path.startsWith(inside))
-            return QStringLiteral("%1 lies outside the models' folder").arg(network.file);
+            return QCoreApplication::translate("Engine", "%1 lies outside the models' folder")
+                .arg(network.file);
     }
     return {};
 }
@@ -48,10 +52,10 @@ const T *lookUp(const QMap<QString, QMap<QString, T>> &map, const QString &categ
 
 QVariantMap parameterMap(const ParameterDefinition &parameter) {
     if (parameter.isFlag)
-        return {{QStringLiteral("default"), parameter.initial != 0}};
-    return {{QStringLiteral("default"), parameter.initial},
-            {QStringLiteral("min"), parameter.minimum},
-            {QStringLiteral("max"), parameter.maximum}};
+        return {{Keys::Default, parameter.initial != 0}};
+    return {{Keys::Default, parameter.initial},
+            {Keys::Minimum, parameter.minimum},
+            {Keys::Maximum, parameter.maximum}};
 }
 
 } // namespace
@@ -107,8 +111,7 @@ QVariantMap ModelCatalogue::toMap() const {
             for (const ParameterDefinition &parameter : definition.parameters)
                 parameters.insert(parameter.name, parameterMap(parameter));
             models.insert(definition.model,
-                          QVariantMap{{QStringLiteral("gui"),
-                                       QVariantMap{{QStringLiteral("parameters"), parameters}}}});
+                          QVariantMap{{Keys::Gui, QVariantMap{{Keys::Parameters, parameters}}}});
         }
         map.insert(category.key(), models);
     }

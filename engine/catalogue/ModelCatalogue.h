@@ -18,10 +18,15 @@ public:
     /// that is damaged, too large, not supported or a second one for its model is skipped with a
     /// line in the log. Weight files stand somewhere below `directory`.
     static std::shared_ptr<const ModelCatalogue> read(const QString &directory, const Supports &supports);
+    /// Every sound definition, whether or not it can be run.
+    static std::shared_ptr<const ModelCatalogue> read(const QString &directory) {
+        return read(directory, [](const ModelDefinition &, QString *) { return true; });
+    }
 
     /// Whether no definition was found, not even one that can't be used.
     bool isEmpty() const { return m_models.isEmpty() && m_problems.isEmpty(); }
     bool hasCategory(const QString &category) const { return m_models.contains(category); }
+    QMap<QString, ModelDefinition> models(const QString &category) const { return m_models.value(category); }
     /// Null when there is none. An empty name gives the category's first model.
     const ModelDefinition *find(const QString &category, const QString &model) const;
     /// Why a model that has a definition isn't there; empty when there is nothing to say. An empty

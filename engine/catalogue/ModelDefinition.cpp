@@ -1,7 +1,11 @@
 #include "engine/catalogue/ModelDefinition.h"
 
+#include "contracts/FilterNames.h"
+#include "engine/catalogue/Roles.h"
+
 #include <QJsonDocument>
 
+#include <array>
 #include <cmath>
 
 namespace {
@@ -19,7 +23,7 @@ QString readParameter(const QString &name, const QJsonValue &value, ParameterDef
     if (!isName(name) || !value.isObject())
         return QStringLiteral("parameter \"%1\" is not an object").arg(name.left(MaxName));
     const QJsonObject object = value.toObject();
-    const QJsonValue initial = object.value(QStringLiteral("default"));
+    const QJsonValue initial = object.value(Keys::Default);
     out.name = name;
     out.role = object.value(QStringLiteral("role")).toString();
     out.isFlag = initial.isBool();
@@ -28,8 +32,8 @@ QString readParameter(const QString &name, const QJsonValue &value, ParameterDef
         return {};
     }
     out.initial = initial.toDouble(0);
-    out.minimum = object.value(QStringLiteral("min")).toDouble(0);
-    out.maximum = object.value(QStringLiteral("max")).toDouble(1);
+    out.minimum = object.value(Keys::Minimum).toDouble(0);
+    out.maximum = object.value(Keys::Maximum).toDouble(1);
     if (!std::isfinite(out.initial) || !std::isfinite(out.minimum) || !std::isfinite(out.maximum) ||
         out.minimum > out.maximum)
         return QStringLiteral("parameter \"%1\" has no valid range").arg(name);
@@ -49,6 +53,19 @@ double ModelDefinition::constant(const QString &name, double fallback) const {
     return constants.value(name).toDouble(fallback);
 }
 
+double ModelDefinition::reach(Fault fault, const QStringList &flags) const {
+    constexpr std::array<double, 3> FullCondition = {75, 30, 4};
+    for (const NetworkDefinition &network : networks) {
+        bool fits = network.scale == 1;
+        for (auto flag = network.when.begin(); flag != network.when.end(); ++flag)
+            fits = fits && flags.contains(flag.key()) == flag.value();
+        if (fits)
+            return network.conditions.value(fault).value(Roles::Strength) *
+                   FullCondition[std::size_t(fault)] / constant(QStringLiteral("colourNoise"), 1);
+    }
+    return 0;
+}
+
 std::optional<ModelDefinition> parseModelDefinition(const QByteArray &json, QString *error) {
     const auto fail = [error](const QString &message) -> std::optional<ModelDefinition> {
         *error = message;
@@ -65,14 +82,14 @@ std::optional<ModelDefinition> parseModelDefinition(const QByteArray &json, QStr
                 : QStringLiteral("at byte %1: %2").arg(parseError.offset).arg(parseError.errorString()));
     const QJsonObject object = document.object();
     ModelDefinition definition;
-    definition.category = object.value(QStringLiteral("category")).toString();
-    definition.model = object.value(QStringLiteral("model")).toString();
+    definition.category = object.value(Keys::Category).toString();
+    definition.model = object.value(Keys::Model).toString();
     definition.kind = object.value(QStringLiteral("kind")).toString();
     definition.operation = object.value(QStringLiteral("operation")).toString();
     definition.constants = object.value(QStringLiteral("constants")).toObject();
     if (!isName(definition.category) || !isName(definition.model) || !isName(definition.operation))
         return fail(QStringLiteral("it names no category, model or operation"));
-    const QJsonObject parameters = object.value(QStringLiteral("parameters")).toObject();
+    const QJsonObject parameters = object.value(Keys::Parameters).toObject();
     if (parameters.size() > MaxParameters)
         return fail(QStringLiteral("it has more than %1 parameters").arg(MaxParameters));
     for (auto it = parameters.begin(); it != parameters.end(); ++it) {

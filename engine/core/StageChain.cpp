@@ -3,10 +3,12 @@
 #include "engine/core/PixelTransfer.h"
 #include "engine/core/TileScheduler.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 QString outOfMemory(const QSize &size) {
-    return QStringLiteral("Not enough memory for a picture of %1 x %2 pixels")
+    return QCoreApplication::translate("Engine", "Not enough memory for a picture of %1 x %2 pixels")
         .arg(size.width())
         .arg(size.height());
 }

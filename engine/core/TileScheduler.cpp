@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int LeastSplit = 96;   ///< no piece is made narrower for the sake of a further thread
-constexpr int Surroundings = 48; ///< what a typical stage reads more than it makes, on both sides together
+constexpr int LeastSplit = 96; ///< no piece is made narrower for the sake of a further thread
+constexpr int Borders = 48;    ///< what a typical stage reads more than it writes, on both sides together
 
 struct Grid {
     int columns;
@@ -18,8 +18,7 @@ struct Grid {
     /// The pixels that the busiest thread goes through.
     double load(const TRect &area, int threads) const {
         const int rounds = (columns * rows + threads - 1) / threads;
-        return rounds * (double(area.width) / columns + Surroundings) *
-               (double(area.height) / rows + Surroundings);
+        return rounds * (double(area.width) / columns + Borders) * (double(area.height) / rows + Borders);
     }
 };
 

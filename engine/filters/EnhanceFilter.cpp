@@ -1,5 +1,6 @@
 #include "engine/filters/EnhanceFilter.h"
 
+#include "contracts/FilterNames.h"
 #include "engine/filters/EnhanceSize.h"
 #include "engine/filters/NetworkChoice.h"
 #include "engine/kernels/HiddenColour.h"
@@ -25,7 +26,7 @@ public:
         , m_alphaHorizontal(Resampler::Kernel::CatmullRom, input.width(), m_output.width())
         , m_alphaVertical(Resampler::Kernel::CatmullRom, input.height(), m_output.height()) {}
 
-    QString name() const override { return QStringLiteral("Enhance"); }
+    QString name() const override { return Categories::Enhance; }
     QSize outputSize(const QSize &) const override { return m_output; }
     TRect outputRegion(const TRect &input) const override;
     double scale() const override { return m_scale; }
@@ -125,7 +126,7 @@ QString EnhanceStage::run(const FloatTile &in, FloatTile &out, Scratch &scratch,
 
 } // namespace
 
-Made makeEnhanceStage(const FilterInput &input) {
+PreparedStage makeEnhanceStage(const FilterInput &input) {
     const double scale = enhanceScale(input.values, input.size, input.log);
     NetworkChoice::Choice choice = NetworkChoice::make(input, std::max(1.0, scale));
     if (!choice.error.isEmpty())

@@ -3,4 +3,4 @@
 #include "engine/filters/Filters.h"
 
 /// Enhance by networks that enlarge in steps.
-Made makeEnhanceStage(const FilterInput &input);
+PreparedStage makeEnhanceStage(const FilterInput &input);

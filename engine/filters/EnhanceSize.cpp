@@ -1,5 +1,7 @@
 #include "engine/filters/EnhanceSize.h"
 
+#include "contracts/FilterNames.h"
+
 namespace {
 
 constexpr double MinScale = 0.2;
@@ -15,11 +17,13 @@ double fixedSideScale(double wanted, double side, const std::optional<double> &s
 } // namespace
 
 double enhanceScale(const FilterValues &values, const QSize &input, RunLog &log) {
-    const QString mode = values.text(QStringLiteral("mode"));
-    const auto scale = values.size(QStringLiteral("scale"));
+    const QString mode = values.text(Params::Mode);
+    if (!mode.isEmpty() && !Params::sizeModes().contains(mode))
+        log.note(QStringLiteral("Enhance: there is no mode \"%1\", the scale is used").arg(mode));
+    const auto scale = values.size(Params::Scale);
     double wanted = scale.value_or(1);
-    for (const auto &[name, side] : {std::pair{QStringLiteral("width"), input.width()},
-                                     std::pair{QStringLiteral("height"), input.height()}}) {
+    for (const auto &[name, side] :
+         {std::pair{Params::Width, input.width()}, std::pair{Params::Height, input.height()}}) {
         if (mode != name)
             continue;
         if (const auto size = values.size(name))

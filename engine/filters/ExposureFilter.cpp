@@ -1,5 +1,8 @@
 #include "engine/filters/ExposureFilter.h"
 
+#include "contracts/FilterNames.h"
+#include "engine/catalogue/Roles.h"
+
 #include <cmath>
 
 namespace {
@@ -19,7 +22,7 @@ public:
     explicit ExposureStage(float gain)
         : m_gain(gain) {}
 
-    QString name() const override { return QStringLiteral("Exposure Adjust"); }
+    QString name() const override { return Categories::Exposure; }
     TRect inputRegion(const TRect &output) const override { return output; }
     double cost() const override { return 0.3; }
     QString run(const FloatTile &in, FloatTile &out, Scratch &, const std::stop_token &) const override {
@@ -45,8 +48,8 @@ private:
 
 } // namespace
 
-Made makeExposureStage(const FilterInput &input) {
-    const double strength = input.values.number(QStringLiteral("strength"));
+PreparedStage makeExposureStage(const FilterInput &input) {
+    const double strength = input.values.number(Roles::Strength);
     const double median = std::clamp(double(input.statistics.lumaMedian), 0.02, 0.98);
     const double full = NaturalMedian / (1 - NaturalMedian) * (1 - median) / median;
     const double gain = std::pow(std::clamp(full, 1 / MaxGain, MaxGain), strength / FullStrength);

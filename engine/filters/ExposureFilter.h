@@ -2,4 +2,4 @@
 
 #include "engine/filters/Filters.h"
 
-Made makeExposureStage(const FilterInput &input);
+PreparedStage makeExposureStage(const FilterInput &input);

@@ -1,22 +1,12 @@
 #include "engine/filters/FilterStack.h"
 
+#include "contracts/FilterNames.h"
 #include "engine/filters/Filters.h"
 #include "engine/filters/HotPixelStage.h"
 
-namespace {
+#include <QCoreApplication>
 
-const QStringList &knownCategories() {
-    static const QStringList categories = {QStringLiteral("Denoise"),
-                                           QStringLiteral("Sharpen"),
-                                           QStringLiteral("Enhance"),
-                                           QStringLiteral("Face Recovery"),
-                                           QStringLiteral("Text Recovery"),
-                                           QStringLiteral("Exposure Adjust"),
-                                           QStringLiteral("White Balance Adjust"),
-                                           QStringLiteral("Inpaint"),
-                                           QStringLiteral("RAW")};
-    return categories;
-}
+namespace {
 
 /// One filter of the controls map.
 struct FilterRecord {
@@ -32,17 +22,16 @@ FilterRecord readRecord(const QString &name, const QVariantMap &controls) {
     const QVariantMap map = controls.value(name).toMap();
     FilterRecord record;
     record.name = name;
-    record.category = map.value(QStringLiteral("category")).toString();
+    record.category = map.value(Keys::Category).toString();
     if (record.category.isEmpty()) {
         record.category = name;
         while (!record.category.isEmpty() && record.category.back().isDigit())
             record.category.chop(1);
     }
-    record.model = map.value(QStringLiteral("model")).toString();
-    record.params = map.value(QStringLiteral("params")).toMap();
-    record.subject =
-        map.value(QStringLiteral("subjectSettings")).toMap().value(QStringLiteral("model")).toString();
-    record.enabled = map.value(QStringLiteral("enabled")).toBool();
+    record.model = map.value(Keys::Model).toString();
+    record.params = map.value(Keys::Params).toMap();
+    record.subject = map.value(Keys::SubjectSettings).toMap().value(Keys::Model).toString();
+    record.enabled = map.value(Keys::Enabled).toBool();
     return record;
 }
 
@@ -66,28 +55,30 @@ QString buildFilterStack(const ProcRequest &request, const ModelCatalogue &catal
             continue;
         const QString problem = catalogue.problem(record.category, record.model);
         if (!problem.isEmpty())
-            return QStringLiteral("The %1 model \"%2\" cannot be used: %3")
+            return QCoreApplication::translate("Engine", "The %1 model \"%2\" cannot be used: %3")
                 .arg(record.category, record.model, problem);
         if (!catalogue.hasCategory(record.category)) {
-            if (!knownCategories().contains(record.category))
-                return QStringLiteral("There is no filter \"%1\"").arg(record.category);
+            if (!Categories::all().contains(record.category))
+                return QCoreApplication::translate("Engine", "There is no filter \"%1\"")
+                    .arg(record.category);
             log.note(QStringLiteral("%1 has no installed model and is skipped").arg(record.category));
             continue;
         }
         const ModelDefinition *definition = catalogue.find(record.category, record.model);
         if (!definition)
-            return QStringLiteral("The %1 model \"%2\" is not installed").arg(record.category, record.model);
+            return QCoreApplication::translate("Engine", "The %1 model \"%2\" is not installed")
+                .arg(record.category, record.model);
         if (!record.subject.isEmpty() && record.subject != QStringLiteral("All") &&
             record.subject != QStringLiteral("none"))
             log.inform(
                 QStringLiteral("Subjects cannot be told apart yet: %1 works on the whole picture").arg(name));
         const FilterValues values(name, *definition, record.params, log);
-        Made made = Filters::make({values, statistics, chain.outputSize(), networks, log});
-        if (!made.error.isEmpty())
-            return made.error;
-        if (!made.stage)
+        PreparedStage prepared = Filters::make({values, statistics, chain.outputSize(), networks, log});
+        if (!prepared.error.isEmpty())
+            return prepared.error;
+        if (!prepared.stage)
             continue;
-        chain.append(std::move(made.stage), values.key());
+        chain.append(std::move(prepared.stage), values.key());
         if (request.hotPixelCorrection && request.input.isRaw && denoises(*definition))
             chain.append(makeHotPixelStage(), QByteArrayLiteral("hot pixels"));
     }

@@ -6,11 +6,12 @@
 #include "engine/filters/RestoreFilter.h"
 #include "engine/filters/WhiteBalanceFilter.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 namespace {
 
-using Make = Made (*)(const FilterInput &);
+using Make = PreparedStage (*)(const FilterInput &);
 
 /// By kind and operation.
 const QHash<QString, Make> &operations() {
@@ -32,7 +33,7 @@ QString keyOf(const ModelDefinition &definition) {
 
 bool Filters::supports(const ModelDefinition &definition, NetworkStore &networks, QString *why) {
     if (!operations().contains(keyOf(definition)))
-        *why = QStringLiteral("this version has no operation \"%1\" of kind \"%2\"")
+        *why = QCoreApplication::translate("Engine", "this version has no operation \"%1\" of kind \"%2\"")
                    .arg(definition.operation, definition.kind);
     else
         *why = NetworkChoice::problem(definition);
@@ -42,6 +43,6 @@ bool Filters::supports(const ModelDefinition &definition, NetworkStore &networks
     return why->isEmpty();
 }
 
-Made Filters::make(const FilterInput &input) {
+PreparedStage Filters::make(const FilterInput &input) {
     return operations().value(keyOf(input.values.definition()))(input);
 }

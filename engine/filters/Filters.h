@@ -16,7 +16,7 @@ struct FilterInput {
 };
 
 /// A stage, an error text, or neither when the settings ask for no change.
-struct Made {
+struct PreparedStage {
     std::unique_ptr<Stage> stage{};
     QString error{};
 };
@@ -27,6 +27,6 @@ namespace Filters {
 /// Whether the engine can run a model: its operation, and its weight files, which are loaded.
 bool supports(const ModelDefinition &definition, NetworkStore &networks, QString *why);
 
-Made make(const FilterInput &input);
+PreparedStage make(const FilterInput &input);
 
 } // namespace Filters

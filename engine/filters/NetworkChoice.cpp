@@ -1,5 +1,9 @@
 #include "engine/filters/NetworkChoice.h"
 
+#include "engine/catalogue/Roles.h"
+
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -40,7 +44,7 @@ double given(const QString &role, const FilterInput &input, double scale) {
     if (role == NetworkChoice::Always)
         return std::clamp(scale - 1, 0.0, 1.0);
     if (role == NetworkChoice::Noise || role == NetworkChoice::ChromaNoise) {
-        const double strength = input.values.number(QStringLiteral("strength"));
+        const double strength = input.values.number(Roles::Strength);
         return role == NetworkChoice::Noise
                    ? std::min(1.0, strength / FullNoiseStrength) * double(input.statistics.lumaNoise)
                    : std::min(1.0, strength / FullChromaStrength) * colourNoise(input.statistics);
@@ -60,7 +64,8 @@ QString NetworkChoice::problem(const ModelDefinition &model) {
             roles += condition.keys();
         for (const QString &role : std::as_const(roles))
             if (!known(role))
-                return QStringLiteral("no parameter has the role \"%1\" that %2 asks for")
+                return QCoreApplication::translate("Engine",
+                                                   "no parameter has the role \"%1\" that %2 asks for")
                     .arg(role, network.file);
     }
     return {};
@@ -69,8 +74,9 @@ QString NetworkChoice::problem(const ModelDefinition &model) {
 NetworkChoice::Choice NetworkChoice::make(const FilterInput &input, double scale) {
     const NetworkDefinition *network = pick(input, scale);
     if (!network)
-        return {std::nullopt, QStringLiteral("No network of the model \"%1\" fits its settings")
-                                  .arg(input.values.definition().model)};
+        return {std::nullopt,
+                QCoreApplication::translate("Engine", "No network of the model \"%1\" fits its settings")
+                    .arg(input.values.definition().model)};
     std::vector<float> values;
     for (const NetworkDefinition::Condition &condition : network->conditions) {
         double sum = 0;

@@ -1,5 +1,6 @@
 #include "engine/filters/RestoreFilter.h"
 
+#include "engine/catalogue/Roles.h"
 #include "engine/filters/NetworkChoice.h"
 #include "engine/kernels/DetailReturn.h"
 #include "engine/kernels/RangeLimit.h"
@@ -44,13 +45,12 @@ private:
 
 } // namespace
 
-Made makeRestoreStage(const FilterInput &input) {
+PreparedStage makeRestoreStage(const FilterInput &input) {
     NetworkChoice::Choice choice = NetworkChoice::make(input, 1);
     if (!choice.pass)
         return {nullptr, choice.error};
     const ModelDefinition &model = input.values.definition();
-    const DetailReturn detail{float(input.values.number(QStringLiteral("detail"))),
-                              input.statistics.lumaNoise};
+    const DetailReturn detail{float(input.values.number(Roles::Detail)), input.statistics.lumaNoise};
     const RangeLimit limit{float(model.constant(QStringLiteral("overshoot"), -1))};
     return {std::make_unique<RestoreStage>(model.category, std::move(*choice.pass), detail, limit), {}};
 }

@@ -3,4 +3,4 @@
 #include "engine/filters/Filters.h"
 
 /// Denoise, Sharpen and RAW by a network.
-Made makeRestoreStage(const FilterInput &input);
+PreparedStage makeRestoreStage(const FilterInput &input);

@@ -1,5 +1,8 @@
 #include "engine/filters/WhiteBalanceFilter.h"
 
+#include "contracts/FilterNames.h"
+#include "engine/catalogue/Roles.h"
+
 #include <cmath>
 
 namespace {
@@ -49,7 +52,7 @@ public:
             m_gains[c] = ChannelGain(float(gains[c]));
     }
 
-    QString name() const override { return QStringLiteral("White Balance Adjust"); }
+    QString name() const override { return Categories::WhiteBalance; }
     TRect inputRegion(const TRect &output) const override { return output; }
     double cost() const override { return 0.3; }
     QString run(const FloatTile &in, FloatTile &out, Scratch &, const std::stop_token &) const override {
@@ -76,9 +79,9 @@ private:
 
 } // namespace
 
-Made makeWhiteBalanceStage(const FilterInput &input) {
-    const double opacity = input.values.number(QStringLiteral("opacity"));
-    const double warmth = 2 * input.values.number(QStringLiteral("temperature")) - 1;
+PreparedStage makeWhiteBalanceStage(const FilterInput &input) {
+    const double opacity = input.values.number(Roles::Opacity);
+    const double warmth = 2 * input.values.number(Roles::Temperature) - 1;
     if (opacity <= 0)
         return {};
     const auto &light = input.statistics.illuminant;

@@ -2,4 +2,4 @@
 
 #include "engine/filters/Filters.h"
 
-Made makeWhiteBalanceStage(const FilterInput &input);
+PreparedStage makeWhiteBalanceStage(const FilterInput &input);

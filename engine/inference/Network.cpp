@@ -4,6 +4,7 @@
 
 #include <onnxruntime_run_options_config_keys.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -60,11 +61,11 @@ QString Network::Session::mismatch() const {
         std::string(inputName(0).get()) != InputNames[0] ||
         std::string(inputName(1).get()) != InputNames[1] ||
         std::string(session.GetOutputNameAllocated(0, allocator).get()) != OutputNames[0])
-        return QStringLiteral("its inputs and outputs have other names");
+        return QCoreApplication::translate("Engine", "its inputs and outputs have other names");
     if (!isTensor(session.GetInputTypeInfo(0), {1, 3, -1, -1}) ||
         !isTensor(session.GetInputTypeInfo(1), {1, conditions}) ||
         !isTensor(session.GetOutputTypeInfo(0), {-1, -1, -1, -1}))
-        return QStringLiteral("its inputs and outputs have other shapes");
+        return QCoreApplication::translate("Engine", "its inputs and outputs have other shapes");
     return {};
 }
 
@@ -96,14 +97,15 @@ Network::~Network() = default;
 std::shared_ptr<const Network> Network::load(const QString &path, int scale, int conditions, QString *error) {
     const QString name = QFileInfo(path).fileName();
     const auto fail = [&](const QString &why) {
-        *error = QStringLiteral("%1 cannot be used: %2").arg(name, why);
+        *error = QCoreApplication::translate("Engine", "%1 cannot be used: %2").arg(name, why);
         return nullptr;
     };
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return fail(file.exists() ? file.errorString() : QStringLiteral("the file is missing"));
+        return fail(file.exists() ? file.errorString()
+                                  : QCoreApplication::translate("Engine", "the file is missing"));
     if (file.size() > MaxFile)
-        return fail(QStringLiteral("it is larger than %1 MiB").arg(MaxFile >> 20));
+        return fail(QCoreApplication::translate("Engine", "it is larger than %1 MiB").arg(MaxFile >> 20));
     try {
         auto session = std::make_unique<Session>(Runtime::makeSession(file.readAll()), conditions);
         const QString mismatch = session->mismatch();
@@ -117,12 +119,13 @@ std::shared_ptr<const Network> Network::load(const QString &path, int scale, int
         if (!error->isEmpty())
             return nullptr;
         if (!std::all_of(result.begin(), result.end(), [](float v) { return std::isfinite(v); }))
-            return fail(QStringLiteral("it computes no numbers"));
+            return fail(QCoreApplication::translate("Engine", "it computes no numbers"));
         return network;
     } catch (const std::bad_alloc &) {
-        return fail(QStringLiteral("there is not enough memory"));
+        return fail(QCoreApplication::translate("Engine", "there is not enough memory"));
     } catch (const std::exception &damage) {
-        return fail(QStringLiteral("the file is damaged (%1)").arg(explanation(damage)));
+        return fail(
+            QCoreApplication::translate("Engine", "the file is damaged (%1)").arg(explanation(damage)));
     }
 }
 
@@ -143,7 +146,7 @@ QString Network::run(const float *image, int width, int height, const std::vecto
         return {};
     if (isShortOfMemory(text))
         throw std::bad_alloc();
-    return QStringLiteral("%1 cannot be run: %2").arg(m_name, text);
+    return QCoreApplication::translate("Engine", "%1 cannot be run: %2").arg(m_name, text);
 }
 
 void Network::releaseMemory() const {

@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QVariantMap modelWith(const QString &parameter, const QVariant &fallback) {
-    return {{u"gui"_s, QVariantMap{{u"parameters"_s,
-                                    QVariantMap{{parameter, QVariantMap{{u"default"_s, fallback}}}}}}}};
+    const QVariantMap range{{u"default"_s, fallback}, {u"min"_s, 0.01}, {u"max"_s, 1}};
+    return {{u"gui"_s, QVariantMap{{u"parameters"_s, QVariantMap{{parameter, range}}}}}};
 }
 
 class Merge : public testing::Test {
@@ -20,7 +20,7 @@ protected:
         m_controls.setModelParamInfo(
             {{u"Denoise"_s, QVariantMap{{u"Fine"_s, modelWith(u"strength"_s, 0.25)},
                                         {u"Heavy"_s, modelWith(u"strength"_s, 0.75)}}},
-             {u"Enhance"_s, QVariantMap{{u"Plain"_s, modelWith(u"scale"_s, 1)}}},
+             {u"Enhance"_s, QVariantMap{{u"Plain"_s, modelWith(u"lens"_s, false)}}},
              {u"RAW"_s, QVariantMap{{u"Native"_s, QVariantMap()}}}});
         m_controls.loadImages({u"/a.jpg"_s});
     }
@@ -40,7 +40,7 @@ protected:
 
     TControls m_controls;
     BatchOptions m_options;
-    QStringList m_order = batchFilterOrder();
+    QStringList m_order = Categories::processingOrder();
     QMap<QString, QString> m_categories = categoryStems();
     Capture m_capture;
 };
@@ -77,6 +77,7 @@ TEST_F(Merge, OverridesOnTop) {
                                "Overwriting Denoise strength to 0.9\n"
                                "Overwriting Enhance enabled to true\n"
                                "Overwriting Enhance enabled to false\n");
+    EXPECT_EQ(m_capture.err(), "");
     EXPECT_TRUE(Capture::logged("info [CLI] Set \"Denoise\" \"model\" = \"Fine\""));
 }
 
@@ -90,4 +91,53 @@ TEST_F(Merge, ACategoryThatAutopilotLeftOut) {
                                "Overwriting RAW enabled to true\n"
                                "Overwriting RAW empty to \n"
                                "Overwriting RAW odd to \n");
+}
+
+/// What can't be had is said, with what there is; the run goes on.
+TEST_F(Merge, NothingIsSwallowed) {
+    struct Row {
+        QString category;
+        QStringList texts;
+        const char *said;
+    };
+    const Row rows[] = {
+        {u"Denoise"_s,
+         {u"force=0.9"_s},
+         "Denoise: \"force\" is no setting of the model Heavy; it has: strength, enabled, model\n"},
+        {u"Denoise"_s, {u"strength=50"_s}, "Denoise: \"strength\" goes from 0.01 to 1; 50 is taken as 1\n"},
+        {u"Denoise"_s, {u"strength=0"_s}, ""},
+        {u"Denoise"_s,
+         {u"strength=much"_s},
+         "Denoise: \"strength\" takes a number, not \"much\"; 0.75 is used\n"},
+        {u"Denoise"_s, {u"enabled=no"_s}, "Denoise: \"enabled\" is true or false, not \"no\"\n"},
+        {u"Denoise"_s, {u"model=Mild"_s}, "Denoise has no model \"Mild\"; there are: Fine, Heavy\n"},
+        {u"Enhance"_s, {u"lens=maybe"_s}, "Enhance: \"lens\" is true or false, not \"maybe\"\n"},
+        {u"Enhance"_s,
+         {u"mode=widht"_s},
+         "Enhance: \"mode\" can't be \"widht\"; there are: scale, width, height\n"},
+        {u"Enhance"_s, {u"width=400"_s}, "Enhance: \"width\" has no effect where mode is scale\n"},
+        {u"Enhance"_s, {u"scale=big"_s}, "Enhance: \"scale\" takes a number above 0, not \"big\"\n"},
+        {u"Face Recovery"_s, {}, "Face Recovery has no installed model and does nothing\n"},
+    };
+    for (const Row &row : rows) {
+        const Capture capture;
+        m_options.overrides.clear();
+        override(row.category, row.texts);
+        apply(advice);
+        EXPECT_EQ(capture.err(), row.said);
+        const QString logged = u"warning [CLI] "_s + QString::fromUtf8(row.said).trimmed();
+        EXPECT_EQ(Capture::log().contains(logged), *row.said != 0) << row.said;
+    }
+}
+
+/// The size that was asked for isn't contradicted by what Autopilot worked out for another.
+TEST_F(Merge, SizeThatWasAskedFor) {
+    override(u"Enhance"_s, {u"width=400"_s, u"mode=width"_s});
+    apply(
+        {{u"Enhance"_s,
+          QVariantMap{{u"enabled"_s, true}, {u"mode"_s, u"scale"_s}, {u"scale"_s, 4}, {u"height"_s, 640}}}});
+    const QVariantMap params = filter(u"Enhance"_s).value(u"params"_s).toMap();
+    EXPECT_EQ(params.value(u"width"_s), u"400"_s);
+    EXPECT_FALSE(params.contains(u"scale"_s));
+    EXPECT_EQ(m_capture.err(), "");
 }

@@ -1,10 +1,8 @@
 #include "Harness.h"
-#include "engine/filters/StrengthScale.h"
+#include "engine/catalogue/ModelCatalogue.h"
 
 #include <QDir>
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -79,37 +77,71 @@ TEST(Catalogue, ShippedModels) {
         EXPECT_FALSE(engine.catalogue.contains(QLatin1String(missing))) << "what does nothing is not offered";
 }
 
-TEST(Catalogue, FilesAgreeWithTheStrengthScale) {
+/// What a strength of 1 takes away: noise on the 8-bit scale, blur as its spread in pixels.
+TEST(Catalogue, ReachOfTheShippedModels) {
     struct Row {
-        const char *file;
-        int network;
-        int condition;
-        double unit; ///< what a condition of 1 stands for
-        double maximum;
+        QString category, model;
+        ModelDefinition::Fault fault;
+        QStringList flags;
+        double reach;
     };
-    // Blur is told by its spread: half the radius of a disk, the length of a line by the root of 12.
     const Row rows[] = {
-        {"denoise/low-light-beta", 0, 0, 75, StrengthScale::denoiseNormal.maximum * 255},
-        {"denoise/severe-noise-beta", 0, 0, 75, StrengthScale::denoiseStrong.maximum * 255},
-        {"denoise/severe-noise", 0, 0, 75, StrengthScale::denoiseExtreme.maximum * 255},
-        {"raw/raw-native", 0, 0, 75, StrengthScale::rawNative.maximum * 255 * StrengthScale::sensorNative},
-        {"raw/linear-raw", 0, 0, 75, StrengthScale::rawNative.maximum * 255 * StrengthScale::sensorNative},
-        {"raw/raw-standard", 0, 0, 75,
-         StrengthScale::rawStandard.maximum * 255 * StrengthScale::sensorStandard},
-        {"sharpen/sharpen-standard-v2", 0, 2, 4, StrengthScale::sharpenStandard.maximum},
-        {"sharpen/sharpen-strong", 0, 2, 4, StrengthScale::sharpenStrong.maximum},
-        {"sharpen/sharpen-standard", 0, 2, 4 * std::sqrt(12), StrengthScale::sharpenMotion.maximum},
-        {"sharpen/sharpen-standard", 1, 2, 4 * 2, StrengthScale::sharpenLens.maximum},
+        {u"Denoise"_s, u"Low Light Beta"_s, ModelDefinition::Noise, {}, 50},
+        {u"Denoise"_s, u"Severe Noise Beta"_s, ModelDefinition::Noise, {}, 75},
+        {u"Denoise"_s, u"Severe Noise"_s, ModelDefinition::Noise, {}, 100},
+        {u"RAW"_s, u"RAW Native"_s, ModelDefinition::Noise, {}, 40},
+        {u"RAW"_s, u"Linear RAW"_s, ModelDefinition::Noise, {}, 40},
+        {u"RAW"_s, u"RAW Standard"_s, ModelDefinition::Noise, {}, 75},
+        {u"Sharpen"_s, u"Sharpen Standard v2"_s, ModelDefinition::Blur, {}, 2},
+        {u"Sharpen"_s, u"Sharpen Strong"_s, ModelDefinition::Blur, {}, 3},
+        {u"Sharpen"_s, u"Sharpen Standard"_s, ModelDefinition::Blur, {}, 9 / std::sqrt(12)},
+        {u"Sharpen"_s, u"Sharpen Standard"_s, ModelDefinition::Blur, {u"lens"_s}, 8.0 / 2},
+        {u"Sharpen"_s, u"Sharpen Strong"_s, ModelDefinition::Noise, {}, 0},
+        {u"Exposure Adjust"_s, {}, ModelDefinition::Noise, {}, 0},
     };
+    const auto models = ModelCatalogue::read(QStringLiteral(ORVANE_MODELS));
     for (const Row &row : rows) {
-        QFile file(QStringLiteral(ORVANE_MODELS "/%1.json").arg(QLatin1String(row.file)));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << row.file;
-        const QJsonObject network =
-            QJsonDocument::fromJson(file.readAll()).object()[u"networks"][row.network].toObject();
-        const double weight = network[u"conditions"][row.condition][u"strength"].toDouble();
-        EXPECT_NEAR(weight * row.unit, row.maximum, 1e-3 * row.maximum) << row.file;
+        const ModelDefinition *model = models->find(row.category, row.model);
+        ASSERT_TRUE(model) << row.model.toStdString();
+        EXPECT_NEAR(model->reach(row.fault, row.flags), row.reach, 1e-3 * row.reach)
+            << row.model.toStdString();
     }
-    EXPECT_NEAR(StrengthScale::denoiseStrong.strength(StrengthScale::denoiseStrong.measure(0.3)), 0.3, 1e-12);
+}
+
+/// A model is added by a definition file alone: it is listed, runs, and is advised within its own range.
+TEST(Catalogue, ANewModelIsAFile) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(QFile::copy(QStringLiteral(ORVANE_MODELS "/denoise/denoise-normal.onnx"),
+                            dir.filePath(u"normal.onnx"_s)));
+    write(dir.filePath(u"denoise/velvet.json"_s), R"({
+        "category": "Denoise", "model": "Velvet", "kind": "network", "operation": "denoise",
+        "parameters": { "velvet": { "role": "strength", "default": 0.2, "min": 0.1, "max": 0.3 },
+                        "sheen": { "role": "detail", "default": 0.6, "min": 0.5, "max": 1 },
+                        "nap": { "default": 0.4 } },
+        "networks": [ { "file": "../normal.onnx", "halo": 20,
+                        "conditions": [ { "strength": 0.5 }, {}, {}, {} ] } ] })");
+    Engine engine({}, dir.path());
+    EXPECT_EQ(engine.catalogue[u"Denoise"_s].toMap().keys(), QStringList{u"Velvet"_s});
+
+    const auto scene = Pictures::scene(320, 240);
+    for (const auto &[noise, strength] :
+         {std::pair(0.0, 0.1), std::pair(7.0, 7 / 37.5), std::pair(40.0, 0.3)}) {
+        const auto picture = noise > 0 ? Pictures::noisy(*scene, noise) : scene;
+        AutopilotOptions options;
+        options.preferences.denoisingModel = u"Velvet"_s;
+        options.preferences.upscalingType = u"none"_s;
+        const AutopilotAnswer answer = engine.backend->analyse(Engine::request(picture).input, options, {});
+        const QVariantMap advice = answer.settings[u"Denoise"_s].toMap();
+        EXPECT_EQ(advice[u"model"_s], u"Velvet"_s);
+        EXPECT_NEAR(advice[u"velvet"_s].toDouble(), strength, 0.03) << noise;
+        EXPECT_EQ(advice[u"sheen"_s], 0.5);
+        EXPECT_EQ(advice[u"nap"_s], 0.4);
+        EXPECT_FALSE(advice.contains(u"param1"_s)) << "a model that isn't installed has no parameters";
+    }
+    const auto noisy = Pictures::noisy(*scene, 15);
+    const auto out = engine.run(noisy, u"Denoise"_s, u"Velvet"_s, {{u"velvet"_s, 0.3}}).image;
+    ASSERT_TRUE(out);
+    EXPECT_GT(Pictures::psnr(*out, *scene), Pictures::psnr(*noisy, *scene) + 1);
 }
 
 /// A damaged file costs its own model and one line that names it, nothing more.

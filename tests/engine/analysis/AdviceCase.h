@@ -21,13 +21,18 @@ inline ImageStatistics measured(double noise, double blur) {
     return s;
 }
 
+inline const ModelCatalogue &shippedModels() {
+    static const auto models = ModelCatalogue::read(QStringLiteral(ORVANE_MODELS));
+    return *models;
+}
+
 struct Case {
     ImageStatistics statistics = measured(0.5, 0.6);
     EngineInput input;
     AutopilotOptions options;
 
     Autopilot::Preferences &preferences() { return options.preferences; }
-    AutopilotAnswer answer() const { return analyseImage(input, statistics, options, {}); }
+    AutopilotAnswer answer() const { return analyseImage(input, statistics, shippedModels(), options, {}); }
     QVariantMap entry(const char *category) const {
         return answer().settings.value(QString::fromLatin1(category)).toMap();
     }

@@ -1,5 +1,5 @@
+#include "AdviceCase.h"
 #include "Scenes.h"
-#include "engine/analysis/Analyse.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +29,7 @@ void expectFinite(const ImageStatistics &s) {
 AutopilotAnswer answerFor(const std::shared_ptr<ImageData> &image, const ImageStatistics &statistics) {
     EngineInput input;
     input.image = image;
-    return analyseImage(input, statistics, {}, {});
+    return analyseImage(input, statistics, AdviceCase::shippedModels(), {}, {});
 }
 
 } // namespace
@@ -115,5 +115,5 @@ TEST(Stopping, AStopIsAnsweredAtOnce) {
     stopped.request_stop();
     ImageStatistics s;
     s.width = s.height = 100;
-    EXPECT_TRUE(analyseImage({}, s, {}, {stopped.get_token(), {}}).cancelled);
+    EXPECT_TRUE(analyseImage({}, s, {}, {}, {stopped.get_token(), {}}).cancelled);
 }

@@ -150,7 +150,7 @@ TEST(Blur, TheKindIsToldFromTheSpectrum) {
     }
 }
 
-TEST(Drawn, DrawingsAreToldFromPhotographs) {
+TEST(Drawing, DrawingsAreToldFromPhotographs) {
     const auto painted = [](const std::function<float(int x, int y, int channel)> &colour) {
         Picture picture = flat(320, 240, {0, 0, 0});
         for (int c = 0; c < 3; ++c)
@@ -166,7 +166,7 @@ TEST(Drawn, DrawingsAreToldFromPhotographs) {
     struct Row {
         const char *name;
         Picture picture;
-        bool drawn;
+        bool drawing;
     };
     const Row rows[] = {
         {"flat shapes", shapes, true},
@@ -180,8 +180,8 @@ TEST(Drawn, DrawingsAreToldFromPhotographs) {
         {"nothing to see", flat(320, 240, {0.4f, 0.5f, 0.6f}), false},
     };
     for (const Row &row : rows)
-        EXPECT_EQ(measured(row.picture).drawn >= Thresholds::DrawnShare, row.drawn)
-            << row.name << ' ' << measured(row.picture).drawn;
+        EXPECT_EQ(measured(row.picture).drawing >= Thresholds::DrawingShare, row.drawing)
+            << row.name << ' ' << measured(row.picture).drawing;
 }
 
 TEST(Compression, QualityIsReadFromThePixels) {

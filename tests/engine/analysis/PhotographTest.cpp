@@ -42,7 +42,7 @@ protected:
         input.image = pixels;
         AutopilotOptions options;
         options.preferences.upscalingType = QStringLiteral("none");
-        const QVariantMap settings = analyseImage(input, measureImage(*pixels, {}), options, {}).settings;
+        const QVariantMap settings = analyseImage(input, measureImage(*pixels, {}), {}, options, {}).settings;
         QStringList proposed;
         for (const auto &[category, entry] : settings.asKeyValueRange()) {
             if (entry.toMap()[QStringLiteral("enabled")].toBool())
@@ -85,7 +85,7 @@ TEST_F(Photographs, CleanOnesAreLeftAloneAndSpoiltOnesAreNot) {
     int touched = 0;
     for (const Picture &picture : pictures()) {
         touched += proposals(picture).isEmpty() ? 0 : 1;
-        EXPECT_LT(measureImage(*image(picture), {}).drawn, Thresholds::DrawnShare);
+        EXPECT_LT(measureImage(*image(picture), {}).drawing, Thresholds::DrawingShare);
     }
     // One of them is softer than the others by nature.
     EXPECT_LE(touched, 1);

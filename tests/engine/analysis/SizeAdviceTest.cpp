@@ -1,4 +1,4 @@
-#include "engine/analysis/Analyse.h"
+#include "AdviceCase.h"
 
 #include <gtest/gtest.h>
 
@@ -21,8 +21,9 @@ Answer ask(int width, int height, const std::function<void(P &)> &prefer, const 
     s.height = height;
     AutopilotOptions options;
     prefer(options.preferences);
-    const QVariantMap entry =
-        analyseImage(input, s, options, {}).settings.value(QStringLiteral("Enhance")).toMap();
+    const QVariantMap entry = analyseImage(input, s, AdviceCase::shippedModels(), options, {})
+                                  .settings.value(QStringLiteral("Enhance"))
+                                  .toMap();
     return {entry[QStringLiteral("enabled")].toBool(), entry[QStringLiteral("mode")].toString(),
             entry[QStringLiteral("scale")].toDouble(), entry};
 }
@@ -100,14 +101,14 @@ TEST(SizeAdvice, ModelsAndModerateFaults) {
     s.height = 800;
     s.edgeShare = 0.05f;
     const auto ask = [&](const AutopilotOptions &options = {}) {
-        return analyseImage({}, s, options, {}).settings;
+        return analyseImage({}, s, AdviceCase::shippedModels(), options, {}).settings;
     };
     const auto entry = [&](const char *category) { return ask()[QString::fromLatin1(category)].toMap(); };
     const QString model = QStringLiteral("model");
     EXPECT_EQ(entry("Enhance")[model], QStringLiteral("High Fidelity V2"));
-    s.drawn = 0.3f;
+    s.drawing = 0.3f;
     EXPECT_EQ(entry("Enhance")[model], QStringLiteral("CGI"));
-    s.drawn = 0.05f;
+    s.drawing = 0.05f;
     s.jpegQuality = 40;
     EXPECT_EQ(entry("Enhance")[model], QStringLiteral("Low Resolution"));
     EXPECT_NEAR(entry("Enhance")[QStringLiteral("param3")].toDouble(), 0.6, 0.01);

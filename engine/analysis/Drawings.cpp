@@ -1,4 +1,4 @@
-#include "engine/analysis/Drawn.h"
+#include "engine/analysis/Drawings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -69,7 +69,7 @@ void count(const Crop &tile, Counts &counts) {
 
 } // namespace
 
-float measureDrawn(const std::vector<Crop> &tiles, std::stop_token stop) {
+float measureDrawing(const std::vector<Crop> &tiles, std::stop_token stop) {
     Counts counts;
     for (const Crop &tile : tiles) {
         if (stop.stop_requested())

@@ -1,4 +1,4 @@
-#include "engine/core/ImageFacts.h"
+#include "engine/analysis/ImageFacts.h"
 
 std::list<ImageFacts::Entry>::iterator ImageFacts::find(const QString &uid) {
     return std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &e) { return e.uid == uid; });
