@@ -8,27 +8,21 @@
 
 namespace {
 
-cv::Mat normal(cv::Size size, cv::RNG &random) {
-    cv::Mat noise(size, CV_32FC3);
-    random.fill(noise, cv::RNG::NORMAL, 0, 1);
-    return noise;
-}
-
 double deviation(const cv::Mat &noise) {
     cv::Scalar mean, sigma;
     cv::meanStdDev(noise, mean, sigma);
     return std::sqrt((sigma[0] * sigma[0] + sigma[1] * sigma[1] + sigma[2] * sigma[2]) / 3);
 }
 
-Degraded whiteNoise(const Photograph &p, double sigma, cv::RNG &random) {
-    const cv::Mat noise = normal(p.clean.size(), random) * sigma;
+Degraded white(const Photograph &p, double sigma, cv::RNG &random) {
+    const cv::Mat noise = whiteNoise(p.clean.size(), random) * sigma;
     return {p.clean, stored(real(p.clean) + noise), sigma};
 }
 
 /// Noise that has the correlation of white noise smoothed by `grain` pixels.
 Degraded grain(const Photograph &p, double sigma, double size, cv::RNG &random) {
     cv::Mat noise;
-    cv::GaussianBlur(normal(p.clean.size(), random), noise, {}, size);
+    cv::GaussianBlur(whiteNoise(p.clean.size(), random), noise, {}, size);
     noise *= sigma / deviation(noise);
     return {p.clean, stored(real(p.clean) + noise), sigma};
 }
@@ -41,8 +35,8 @@ Degraded camera(const Photograph &p, double strength, int quality, cv::RNG &rand
     cv::Mat spread;
     cv::sqrt(linear * strength + cv::Scalar::all(strength * strength * 0.2), spread);
     cv::Mat fine, coarse;
-    cv::GaussianBlur(normal(p.clean.size(), random), fine, {}, 0.5);
-    cv::GaussianBlur(normal(p.clean.size(), random), coarse, {}, 1.2);
+    cv::GaussianBlur(whiteNoise(p.clean.size(), random), fine, {}, 0.5);
+    cv::GaussianBlur(whiteNoise(p.clean.size(), random), coarse, {}, 1.2);
     const cv::Mat noise = fine / deviation(fine) * 0.9 + coarse / deviation(coarse) * 0.45;
     cv::Mat encoded;
     cv::pow(cv::max(linear + spread.mul(noise), 0), 1 / 2.2, encoded);
@@ -53,7 +47,7 @@ Degraded camera(const Photograph &p, double strength, int quality, cv::RNG &rand
 }
 
 Degraded reduced(const Photograph &p, double sigma, int method, cv::RNG &random) {
-    const cv::Mat noise = normal(p.larger.size(), random) * sigma;
+    const cv::Mat noise = whiteNoise(p.larger.size(), random) * sigma;
     cv::Mat clean, picture;
     cv::resize(p.larger, clean, p.clean.size(), 0, 0, method);
     cv::resize(stored(real(p.larger) + noise), picture, p.clean.size(), 0, 0, method);
@@ -63,7 +57,7 @@ Degraded reduced(const Photograph &p, double sigma, int method, cv::RNG &random)
 }
 
 Degraded compressedNoise(const Photograph &p, double sigma, int quality, cv::RNG &random) {
-    const cv::Mat picture = withJpeg(whiteNoise(p, sigma, random).picture, quality);
+    const cv::Mat picture = withJpeg(white(p, sigma, random).picture, quality);
     return {p.clean, picture, deviation(real(picture) - real(withJpeg(p.clean, quality)))};
 }
 
@@ -97,7 +91,7 @@ cv::Mat smear(int length, double degrees) {
 }
 
 Degraded withNoise(const Photograph &p, const cv::Mat &blurred, double sigma, cv::RNG &random) {
-    return {p.clean, stored(blurred + normal(p.clean.size(), random) * sigma), sigma};
+    return {p.clean, stored(blurred + whiteNoise(p.clean.size(), random) * sigma), sigma};
 }
 
 } // namespace
@@ -115,7 +109,7 @@ std::vector<Degradation> degradations() {
         {"clean", Fault::None, false, [](P p, R) { return Degraded{p.clean, p.clean, 0}; }}};
     for (const int sigma : {5, 10, 15, 25, 35, 50}) {
         all.push_back({"white noise " + std::to_string(sigma), Fault::WhiteNoise, true,
-                       [sigma](P p, R r) { return whiteNoise(p, sigma, r); }});
+                       [sigma](P p, R r) { return white(p, sigma, r); }});
     }
     const auto noise = [&all](const char *name, std::function<Degraded(P, R)> apply) {
         all.push_back({name, Fault::CameraNoise, true, std::move(apply)});

@@ -16,6 +16,12 @@ cv::Mat stored(const cv::Mat &picture) {
     return converted;
 }
 
+cv::Mat whiteNoise(cv::Size size, cv::RNG &random, double sigma) {
+    cv::Mat noise(size, CV_32FC3);
+    random.fill(noise, cv::RNG::NORMAL, 0, sigma);
+    return noise;
+}
+
 cv::Mat withJpeg(const cv::Mat &picture, int quality) {
     std::vector<uchar> file;
     cv::imencode(".jpg", picture, file, {cv::IMWRITE_JPEG_QUALITY, quality});

@@ -1,9 +1,9 @@
 #include "StudioProcess.h"
 
+#include "tests/driver/WindowDriver.h"
+
 #include <QDeadlineTimer>
-#include <QDir>
 #include <QFile>
-#include <QThread>
 
 #include <cstdio>
 
@@ -19,17 +19,7 @@ constexpr int PatienceMs = 60000;
 
 StudioProcess::StudioProcess(const QString &program)
     : m_program(program) {
-    QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
-    for (const auto &[name, folder] : {std::pair(u"HOME"_s, u"home"_s),
-                                       {u"XDG_CONFIG_HOME"_s, u"config"_s},
-                                       {u"XDG_DATA_HOME"_s, u"data"_s},
-                                       {u"XDG_RUNTIME_DIR"_s, u"run"_s},
-                                       {u"TMPDIR"_s, u"tmp"_s}}) {
-        QDir(m_home.path()).mkpath(folder);
-        surroundings.insert(name, m_home.filePath(folder));
-    }
-    QFile::setPermissions(m_home.filePath(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    m_process.setProcessEnvironment(surroundings);
+    m_process.setProcessEnvironment(WindowDriver::environmentBelow(m_home));
     m_process.setProcessChannelMode(QProcess::MergedChannels);
 }
 
@@ -39,11 +29,11 @@ StudioProcess::~StudioProcess() {
 }
 
 bool StudioProcess::start(const QStringList &arguments, bool watched) {
-    QProcessEnvironment surroundings = m_process.processEnvironment();
-    surroundings.remove(u"ORVANE_GUI_WATCH"_s);
+    QProcessEnvironment environment = m_process.processEnvironment();
+    environment.remove(u"ORVANE_GUI_WATCH"_s);
     if (watched)
-        surroundings.insert(u"ORVANE_GUI_WATCH"_s, u"1"_s);
-    m_process.setProcessEnvironment(surroundings);
+        environment.insert(u"ORVANE_GUI_WATCH"_s, u"1"_s);
+    m_process.setProcessEnvironment(environment);
     m_clock.start();
     m_process.start(m_program, arguments);
     return m_process.waitForStarted();
@@ -113,26 +103,6 @@ double StudioProcess::processorSeconds() const {
     return 0;
 }
 
-bool StudioProcess::send(const QStringList &xdotool) {
-    return QProcess::execute(u"xdotool"_s, xdotool) == 0;
-}
-
-bool StudioProcess::focus() {
-    const auto ask = [](const QStringList &arguments) {
-        QProcess tool;
-        tool.start(u"xdotool"_s, arguments);
-        return tool.waitForFinished() && tool.exitCode() == 0 ? QString::fromLatin1(tool.readAll()).trimmed()
-                                                              : QString();
-    };
-    for (const QDeadlineTimer deadline(PatienceMs); !deadline.hasExpired(); QThread::msleep(100)) {
-        const QString id = QString::number(m_process.processId());
-        const QStringList windows =
-            ask({u"search"_s, u"--onlyvisible"_s, u"--pid"_s, id}).split(u'\n', Qt::SkipEmptyParts);
-        for (const QString &window : windows) {
-            ask({u"windowfocus"_s, window});
-            if (ask({u"getwindowfocus"_s, u"-f"_s}) == window)
-                return true;
-        }
-    }
-    return false;
+bool StudioProcess::focus() const {
+    return WindowDriver::focus(m_process);
 }

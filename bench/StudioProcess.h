@@ -34,12 +34,10 @@ public:
     std::vector<Second> takeSeconds();
 
     /// For a further start in the same home.
-    QProcessEnvironment surroundings() const { return m_process.processEnvironment(); }
+    QProcessEnvironment environment() const { return m_process.processEnvironment(); }
     /// Processor seconds used so far.
     double processorSeconds() const;
-    /// Gives the window the keyboard; then sends what xdotool is told.
-    bool focus();
-    static bool send(const QStringList &xdotool);
+    bool focus() const;
 
 private:
     bool read(int milliseconds);

@@ -3,6 +3,8 @@
 #include "StaleRun.h"
 #include "StudioProcess.h"
 
+#include "tests/driver/WindowDriver.h"
+
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
@@ -92,7 +94,7 @@ int firstFrames() {
 
 /// A key, in the names of X.
 void press(const QString &key) {
-    StudioProcess::send({u"key"_s, key});
+    WindowDriver::send({u"key"_s, key});
 }
 
 /// A picture that is opened while another one stands, as a person does.
@@ -163,19 +165,19 @@ int moving(const QTemporaryDir &folder) {
         return 2;
     window.focus();
     const auto click = [](const QString &button) {
-        StudioProcess::send({u"mousemove"_s, u"500"_s, u"450"_s, u"click"_s, u"--repeat"_s, u"60"_s,
-                             u"--delay"_s, u"15"_s, button});
+        WindowDriver::send({u"mousemove"_s, u"500"_s, u"450"_s, u"click"_s, u"--repeat"_s, u"60"_s,
+                            u"--delay"_s, u"15"_s, button});
     };
     const auto drag = [&window](int sign) {
-        StudioProcess::send({u"mousemove"_s, u"500"_s, u"450"_s, u"mousedown"_s, u"1"_s});
+        WindowDriver::send({u"mousemove"_s, u"500"_s, u"450"_s, u"mousedown"_s, u"1"_s});
         window.watch(120);
         for (int i = 0; i < 60; ++i) {
-            StudioProcess::send(
+            WindowDriver::send(
                 {u"mousemove_relative"_s, u"--"_s, QString::number(5 * sign), QString::number(4 * sign)});
             window.watch(16);
         }
         window.watch(120);
-        StudioProcess::send({u"mouseup"_s, u"1"_s});
+        WindowDriver::send({u"mouseup"_s, u"1"_s});
     };
     int failed = phase(window, "100 megapixels, opened", [&] {
         const double pressed = window.now();
@@ -204,7 +206,7 @@ int thousands(const QTemporaryDir &folder) {
     window.focus();
     failed |= phase(window, "5000 files, opened from a second start", [&] {
         QProcess second;
-        second.setProcessEnvironment(window.surroundings());
+        second.setProcessEnvironment(window.environment());
         second.start(program(), {folder.filePath(u"many"_s)});
         second.waitForFinished(60000);
         window.watch(2000);

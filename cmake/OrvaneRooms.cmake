@@ -39,6 +39,13 @@ if(ORVANE_SANITIZE)
   target_link_options(orvane_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Every module's documents: cmake --build build/release --target lint. A module adds its own linter run with
+# orvane_lint(<target>); the warnings that stop it stand in .qmllint.ini.
+add_custom_target(lint)
+function(orvane_lint target)
+  add_dependencies(lint ${target})
+endfunction()
+
 # orvane_room(<room> SOURCES ... [PUBLIC libs...] [PRIVATE libs...])
 # A static library orvane_<room>. Its headers are included as "<room>/Name.h" through a folder
 # of its own, so that a room that does not link this one cannot include from it.
@@ -61,35 +68,96 @@ function(orvane_program name)
   target_link_libraries(${name} PRIVATE orvane_options ${ARG_LIBS})
 endfunction()
 
-# orvane_test(<name> SOURCES ... LIBS ... [WINDOW] [TIMEOUT s]): a GoogleTest program, one entry in
-# ctest. Qt Test is linked for QSignalSpy. WINDOW runs it on a virtual screen with the software OpenGL
-# driver, as the real window is drawn.
+# orvane_test(<name> SOURCES ... LIBS ... [WINDOW] [SHARDS n] [TIMEOUT s]): a GoogleTest program. ctest knows it as a
+# whole (label "whole": what ./check runs) and case by case (label "case": ctest -R Suite.Case). SHARDS spreads a long
+# program over n entries that run side by side. WINDOW gives it a virtual screen. Qt Test is linked for QSignalSpy.
 function(orvane_test name)
-  cmake_parse_arguments(ARG "WINDOW" "TIMEOUT" "SOURCES;LIBS" ${ARGN})
+  cmake_parse_arguments(ARG "WINDOW" "SHARDS;TIMEOUT" "SOURCES;LIBS" ${ARGN})
   find_package(GTest REQUIRED)
+  include(GoogleTest)
   add_executable(${name} ${ARG_SOURCES})
-  set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   target_link_libraries(${name} PRIVATE orvane_options Qt6::Test GTest::gtest ${ARG_LIBS})
-  set(window)
+  set(kind unit)
+  set(launcher ${CMAKE_SOURCE_DIR}/tests/run)
   if(ARG_WINDOW)
-    set(window WINDOW)
+    set(kind window)
+    list(APPEND launcher --window)
   endif()
-  orvane_add_test(${name} COMMAND $<TARGET_FILE:${name}> TIMEOUT "${ARG_TIMEOUT}" ${window})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests
+                        TEST_LAUNCHER "${launcher}")
+  _orvane_limit(limit "${ARG_TIMEOUT}")
+
+  string(REGEX REPLACE "^test_" "" prefix ${name})
+  gtest_discover_tests(${name} TEST_PREFIX ${prefix}. DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
+                       PROPERTIES TIMEOUT ${limit} LABELS "case\\;${kind}")
+
+  set(wholes ${name})
+  if(ARG_SHARDS)
+    list(APPEND kind slow)
+    set(wholes)
+    math(EXPR last "${ARG_SHARDS} - 1")
+    foreach(shard RANGE ${last})
+      list(APPEND wholes ${name}_${shard})
+    endforeach()
+  endif()
+  foreach(whole IN LISTS wholes)
+    add_test(NAME ${whole} COMMAND ${launcher} $<TARGET_FILE:${name}>)
+    # A case that skips itself has not shown what it is there for.
+    set_tests_properties(${whole} PROPERTIES TIMEOUT ${limit} LABELS "whole;${kind}"
+                         FAIL_REGULAR_EXPRESSION "\\[  SKIPPED \\]")
+  endforeach()
+  if(ARG_SHARDS)
+    foreach(shard RANGE ${last})
+      # The longest begin first, so that the last one to end is a short one.
+      set_tests_properties(${name}_${shard} PROPERTIES COST ${limit}
+                           ENVIRONMENT "GTEST_TOTAL_SHARDS=${ARG_SHARDS};GTEST_SHARD_INDEX=${shard}")
+    endforeach()
+  endif()
 endfunction()
 
-# orvane_add_test(<name> COMMAND ... [WINDOW] [TIMEOUT s]): the environment every test runs in.
-function(orvane_add_test name)
-  cmake_parse_arguments(ARG "WINDOW" "TIMEOUT" "COMMAND" ${ARGN})
-  set(platform offscreen)
-  set(screen)
+# orvane_documents_test(<name> SOURCES ... LIBS ...): a Qt Quick Test program that runs every tst_*.qml of the calling
+# folder on a window that is nowhere shown. ctest knows it as a whole and file by file (ctest -R tst_name).
+function(orvane_documents_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE QUICK_TEST_SOURCE_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE orvane_options Qt6::Quick Qt6::QuickTest ${ARG_LIBS})
+  set(command ${CMAKE_SOURCE_DIR}/tests/run --documents $<TARGET_FILE:${name}>)
+  _orvane_limit(limit "")
+  add_test(NAME ${name} COMMAND ${command})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${limit} LABELS "whole;unit" FAIL_REGULAR_EXPRESSION "\nSKIP ")
+  file(GLOB files CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} tst_*.qml)
+  foreach(file IN LISTS files)
+    string(REGEX REPLACE "\\.qml$" "" case ${file})
+    add_test(NAME ${name}.${case} COMMAND ${command} -input ${CMAKE_CURRENT_SOURCE_DIR}/${file})
+    set_tests_properties(${name}.${case} PROPERTIES TIMEOUT ${limit} LABELS "case;unit")
+  endforeach()
+endfunction()
+
+# orvane_command_test(<name> COMMAND ... [WINDOW] [TIMEOUT s]): what is no test program, one entry that is a case and a
+# whole.
+function(orvane_command_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "WINDOW" "TIMEOUT" "COMMAND")
+  set(kind unit)
+  set(launcher ${CMAKE_SOURCE_DIR}/tests/run)
   if(ARG_WINDOW)
-    set(platform xcb)
-    set(screen xvfb-run -a -s "-screen 0 1600x1200x24 -nolisten tcp")
+    set(kind window)
+    list(APPEND launcher --window)
   endif()
-  add_test(NAME ${name} COMMAND ${screen} ${ARG_COMMAND})
-  if(NOT ARG_TIMEOUT)
-    set(ARG_TIMEOUT 300)
+  _orvane_limit(limit "${ARG_TIMEOUT}")
+  add_test(NAME ${name} COMMAND ${launcher} ${ARG_COMMAND})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${limit} LABELS "whole;case;${kind}")
+endfunction()
+
+# A limit tells a program that hangs from one that is slow: with sanitizers on two cores beside another build, a program
+# takes some twenty times what it takes alone and optimised.
+function(_orvane_limit result seconds)
+  if(NOT seconds)
+    set(seconds 300)
   endif()
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT
-    "QT_QPA_PLATFORM=${platform};LIBGL_ALWAYS_SOFTWARE=1;LC_ALL=C.UTF-8;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=suppressions='${CMAKE_SOURCE_DIR}/tests/lsan.supp':print_suppressions=0")
+  if(ORVANE_SANITIZE)
+    math(EXPR seconds "${seconds} * 4")
+  endif()
+  set(${result} ${seconds} PARENT_SCOPE)
 endfunction()

@@ -11,9 +11,10 @@ Item {
     property bool ringed: false
     default property alias content: _slot.data
 
-    function _reveal(item: Item): void {
-        if (item["focusRing"])
-            item["focusRing"]().visible = true;
+    // `item` is any Item; only some controls have the function.
+    function _reveal(item: var): void {
+        if (item.focusRing)
+            item.focusRing().visible = true;
         for (const child of item.children)
             _reveal(child);
     }

@@ -170,8 +170,7 @@ TEST(RoundTrip, FormatsOfThePhone) {
     for (const Sample &s : samples) {
         SCOPED_TRACE(s.file);
         const QString path = QString::fromUtf8(s.file);
-        if (!files().formats().readable.contains(QFileInfo(path).suffix()))
-            GTEST_SKIP() << "The image library here reads no HEIF files.";
+        ASSERT_TRUE(files().formats().readable.contains(QFileInfo(path).suffix()));
         EXPECT_EQ(files().imageSize(path), s.size);
         const ReadResult back = read(path);
         ASSERT_TRUE(back.image) << back.error.toStdString();

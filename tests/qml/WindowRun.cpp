@@ -1,5 +1,7 @@
 #include "WindowRun.h"
 
+#include "tests/driver/WindowDriver.h"
+
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
@@ -19,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 WindowRun::WindowRun() {
     const QDir home(m_home.path());
-    for (const char *folder : {"config", "data", "run", "tmp", "pictures", "bin", "share/orvane-studio"})
+    for (const char *folder : {"pictures", "bin", "share/orvane-studio"})
         home.mkpath(QLatin1String(folder));
     // An installation of its own, since logs and the session list stand beside the models.
     std::error_code failed;
@@ -28,16 +30,10 @@ WindowRun::WindowRun() {
     for (const QString &data : {u"models"_s, u"filterData"_s})
         QFile::link(QStringLiteral(ORVANE_DATA "/") + data, home.filePath(u"share/orvane-studio/"_s + data));
 
-    QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
-    surroundings.insert(u"HOME"_s, home.path());
-    surroundings.insert(u"XDG_CONFIG_HOME"_s, home.filePath(u"config"_s));
-    surroundings.insert(u"XDG_DATA_HOME"_s, home.filePath(u"data"_s));
-    surroundings.insert(u"XDG_DATA_DIRS"_s, home.filePath(u"data"_s));
-    surroundings.insert(u"XDG_RUNTIME_DIR"_s, home.filePath(u"run"_s));
-    surroundings.insert(u"TMPDIR"_s, home.filePath(u"tmp"_s));
-    surroundings.insert(u"ORVANE_GUI_WATCH"_s, u"1"_s);
-    QFile::setPermissions(home.filePath(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    m_process.setProcessEnvironment(surroundings);
+    QProcessEnvironment environment = WindowDriver::environmentBelow(m_home);
+    environment.insert(u"XDG_DATA_DIRS"_s, home.filePath(u"data"_s));
+    environment.insert(u"ORVANE_GUI_WATCH"_s, u"1"_s);
+    m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.setStandardOutputFile(m_home.filePath(u"console.txt"_s));
 }
@@ -141,47 +137,25 @@ bool WindowRun::waitForSession(const QStringList &files) {
     return waitUntil([&] { return session() == files; });
 }
 
-bool WindowRun::focus() {
-    const QString id = QString::number(m_process.processId());
-    const auto xdotool = [](const QStringList &arguments) {
-        QProcess tool;
-        tool.start(u"xdotool"_s, arguments);
-        const bool done = tool.waitForFinished(10000) && tool.exitCode() == 0;
-        return done ? QString::fromLatin1(tool.readAllStandardOutput()).trimmed() : QString();
-    };
-    // There is no window manager to give the window the keyboard. A window that is not on the screen yet
-    // refuses it.
-    for (const QDeadlineTimer deadline(60000); !deadline.hasExpired() && isRunning(); QThread::msleep(100)) {
-        const QStringList windows =
-            xdotool({u"search"_s, u"--onlyvisible"_s, u"--pid"_s, id}).split(u'\n', Qt::SkipEmptyParts);
-        for (const QString &window : windows) {
-            xdotool({u"windowfocus"_s, window});
-            if (xdotool({u"getwindowfocus"_s, u"-f"_s}) == window)
-                return true;
-        }
-    }
-    return false;
-}
-
 bool WindowRun::keys(const QStringList &names) {
-    if (!focus())
+    if (!WindowDriver::focus(m_process))
         return false;
     for (const QString &name : names) {
         QThread::msleep(1000);
-        if (QProcess::execute(u"xdotool"_s, {u"key"_s, name}) != 0)
+        if (!WindowDriver::send({u"key"_s, name}))
             return false;
     }
     return true;
 }
 
 bool WindowRun::pressUntil(const QStringList &names, const std::function<bool()> &condition) {
-    if (!focus())
+    if (!WindowDriver::focus(m_process))
         return condition();
     qsizetype next = 0;
     for (const QDeadlineTimer deadline(60000); !condition() && !deadline.hasExpired() && isRunning();) {
         if (m_process.waitForFinished(1000) || condition())
             break;
-        QProcess::execute(u"xdotool"_s, {u"key"_s, names[next++ % names.size()]});
+        WindowDriver::send({u"key"_s, names[next++ % names.size()]});
     }
     return condition();
 }

@@ -58,8 +58,6 @@ protected:
     int waitForEnd();
 
 private:
-    /// Gives the window the keyboard; false when it has not taken it within a minute.
-    bool focus();
     QString program() const;
 
     QTemporaryDir m_home;

@@ -1,6 +1,6 @@
 #include "Damage.h"
 
-#include "../Samples.h"
+#include "bench/Samples.h"
 
 #include <opencv2/imgproc.hpp>
 
@@ -11,10 +11,8 @@ namespace {
 constexpr int KernelSide = 21;
 
 cv::Mat noise(cv::Size size, double sigma, int seed) {
-    cv::Mat out(size, CV_32FC3);
     cv::RNG random(static_cast<std::uint64_t>(seed) + 1);
-    random.fill(out, cv::RNG::NORMAL, 0, sigma);
-    return out;
+    return whiteNoise(size, random, sigma);
 }
 
 cv::Mat kernel(const std::function<double(double x, double y)> &weight) {

@@ -1,7 +1,7 @@
-#include "../Photographs.h"
 #include "Drawings.h"
 #include "Measurement.h"
 #include "Page.h"
+#include "bench/Photographs.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../EngineRun.h"
 #include "References.h"
+#include "bench/EngineRun.h"
 
 #include <functional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "Cases.h"
 
-#include "../Samples.h"
 #include "Damage.h"
 #include "Sensor.h"
+#include "bench/Samples.h"
 
 using namespace Qt::StringLiterals;
 

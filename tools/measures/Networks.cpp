@@ -1,7 +1,7 @@
 #include "Networks.h"
 
-#include "../EngineRun.h"
-#include "../WeightCount.h"
+#include "bench/EngineRun.h"
+#include "bench/WeightCount.h"
 
 #include "engine/catalogue/ModelCatalogue.h"
 
