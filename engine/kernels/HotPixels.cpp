@@ -8,7 +8,7 @@ namespace {
 /// How far a spot must rise above the brightest pixel around it, and for each unit by which those differ.
 /// Texture left after denoising stays below.
 constexpr float LeastRise = 0.08f;
-constexpr float RisePerRange = 1.5f;
+constexpr float RisePerRange = 0.5f;
 constexpr float NoSpot = std::numeric_limits<float>::max();
 
 struct Offset {
