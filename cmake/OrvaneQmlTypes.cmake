@@ -1,6 +1,6 @@
 # The native types that documents import. A class says in its own header what it is to them (QML_ELEMENT,
 # QML_UNCREATABLE); its room says here which module it stands in. Out of both come, for each module, the description
-# that the linter and the ahead-of-time compiler read and the source that registers its types at version 1.0.
+# that the linter and editors read and the source that registers its types at version 1.0.
 
 set(ORVANE_QML_TYPES_FOLDER ${CMAKE_BINARY_DIR}/qml)
 
@@ -35,7 +35,8 @@ function(orvane_qml_type room header)
 endfunction()
 
 # orvane_qml_modules(<library>)
-# The modules of all types named so far, in an object library: a program that links it has them.
+# The modules of all types named so far, in an object library: a program that links it has them. Their descriptions
+# alone, which compile nothing, are the target <library>_descriptions.
 function(orvane_qml_modules library)
   add_library(${library} OBJECT)
   # The descriptions of the toolkit's own types come with its libraries to those who ask.
@@ -55,6 +56,9 @@ function(orvane_qml_modules library)
   foreach(module IN LISTS modules)
     _orvane_qml_module(${library} ${module})
   endforeach()
+  list(TRANSFORM modules REPLACE "(.+)" "${ORVANE_QML_TYPES_FOLDER}/\\1/types.qmltypes" OUTPUT_VARIABLE descriptions)
+  add_custom_target(${library}_descriptions DEPENDS ${descriptions})
+  add_dependencies(${library} ${library}_descriptions)
 endfunction()
 
 function(_orvane_qml_module library module)

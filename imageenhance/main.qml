@@ -1,9 +1,14 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
+import AppContext
+import AppState
 import TControls
 import TImageIO
+import TIntegrations
+import TIntercom
 import TPresetsManager
+import WindowsThemeListener
 import PebbleUI
 import imageenhance
 
@@ -13,11 +18,11 @@ ApplicationWindow {
     id: appWindow
 
     // qmllint disable unqualified
-    readonly property var context: appContext
-    readonly property var session: appState
-    readonly property var host: tIntegrations
-    readonly property var intercom: tIntercom
-    readonly property var systemTheme: themeListener
+    readonly property AppContext context: appContext
+    readonly property AppState session: appState
+    readonly property TIntegrations host: tIntegrations
+    readonly property TIntercom intercom: tIntercom
+    readonly property WindowsThemeListener systemTheme: themeListener
     // qmllint enable unqualified
 
     minimumWidth: Math.min(1280, Screen.desktopAvailableWidth)
@@ -134,7 +139,6 @@ ApplicationWindow {
         recentFiles: openedImages.recentFiles
         dialogOpen: dialogs.anyOpen
         onBrowseImages: dialogs.openImageDialog.show()
-        onAddImages: dialogs.openImageDialog.open()
     }
     WindowDialogs {
         id: dialogs

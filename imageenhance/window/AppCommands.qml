@@ -1,13 +1,14 @@
 import QtQuick
+import TControls
 import imageenhance
 
 // One function for each command of the window, wherever it comes from: menus, keys, buttons.
 QtObject {
     id: _top
 
-    required property var controls // TControls
-    required property var panel // RightPanel
-    required property var closing // ClosingQuestions
+    required property TControls controls
+    required property RightPanel panel
+    required property ClosingQuestions closing
     required property Helpers helpers
 
     signal openFileDialog

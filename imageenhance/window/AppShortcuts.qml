@@ -6,7 +6,7 @@ Item {
     id: _top
 
     required property AppCommands commands
-    required property var preview // ImagePreview
+    required property ImagePreview preview
     required property bool active // no dialog is open
     required property WindowState windowState
 

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import PebbleUI
+import TControls
 import imageenhance
 
 // For developers, Ctrl+Shift+D: puts Autopilot's filters on the image, sets a parameter of one, asks for the size of a
@@ -9,8 +10,8 @@ import imageenhance
 Rectangle {
     id: _top
 
-    required property var controls // TControls
-    required property var panel // RightPanel
+    required property TControls controls
+    required property RightPanel panel
     required property MainSettings settings
 
     implicitWidth: 360

@@ -1,11 +1,12 @@
 import QtQuick
 import QtQuick.Dialogs
+import TImageUtils
 
 // Where images are chosen.
 FileDialog {
     id: _top
 
-    required property var imageUtils // TImageUtils
+    required property TImageUtils imageUtils
 
     signal chosen(var paths)
 

@@ -14,7 +14,7 @@ Column {
     required property MainSettings settings
     required property string appVersion
 
-    function registerWithWindowAgent(agent: var): void {
+    function registerWithWindowAgent(agent: WindowAgent): void {
         agent.setTitleBar(_bar);
         agent.setSystemButton(WindowAgent.Minimize, _buttons.minimizeButton);
         agent.setSystemButton(WindowAgent.Maximize, _buttons.maximizeButton);

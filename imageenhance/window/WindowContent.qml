@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Window
 import PebbleUI
@@ -23,7 +24,6 @@ Item {
     readonly property alias panel: _panel
 
     signal browseImages // by a file dialog that has forgotten the last choice
-    signal addImages
 
     // The keyboard goes back to the window's own keys.
     function takeFocus(): void {
@@ -41,35 +41,64 @@ Item {
         settings: _top.settings
         appVersion: _top.appVersion
     }
-    WorkArea {
+
+    Item {
+        id: _work
+
         anchors { left: parent.left; right: parent.right; top: _titleBar.bottom; bottom: parent.bottom }
-        preview: _preview
-        panel: _panel
-        windowState: _top.windowState
-        imageUtils: _top.windowState.helpers.imageUtils
-        recentFiles: _top.recentFiles
-        commands: _top.commands
-        theme: _theme
-        onBrowseImages: _top.browseImages()
+        visible: _top.windowState.imageOpen
+
+        ImagePreview {
+            id: _preview
+            anchors { left: parent.left; right: _panel.left; top: parent.top; bottom: parent.bottom }
+            visible: !_top.windowState.hidesPreview
+            engine: _top.engine
+            windowState: _top.windowState
+            settings: _top.settings
+            originalKeyHeld: _top.keyState.spaceHeld || _top.keyState.slashHeld
+            navigatorWidth: _panel.navigatorWidth
+            onOpenImageDialog: _top.commands.openFile()
+            onFocusWanted: _top.takeFocus()
+        }
+        RightPanel {
+            id: _panel
+            anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
+            controls: _top.windowState.controls
+            settings: _top.settings
+            navigator: _preview.navigator
+            imageOpen: _top.windowState.imageOpen
+        }
     }
-    RightPanel {
-        id: _panel
-        controls: _top.windowState.controls
-        settings: _top.settings
-        navigator: _preview.navigator
-        imageOpen: _top.windowState.imageOpen
+
+    Loader {
+        anchors.fill: _work
+        active: !_top.windowState.imageOpen
+        onActiveChanged: _top.recentFiles.clean()
+        sourceComponent: WelcomeScreen {
+            recentFiles: _top.recentFiles.list
+            imageUtils: _top.windowState.helpers.imageUtils
+            dropEnabled: !_top.windowState.pluginMode
+            onBrowseImages: _top.browseImages()
+            onOpenRecentFile: path => _top.commands.openRecentFile(path)
+            onClearRecentFiles: _top.recentFiles.clear()
+            onOpenUrl: url => _top.commands.openUrl(url)
+        }
     }
-    ImagePreview {
-        id: _preview
-        engine: _top.engine
-        windowState: _top.windowState
-        settings: _top.settings
-        panKeyHeld: _top.keyState.panKeyHeld
-        originalKeyHeld: _top.keyState.spaceHeld || _top.keyState.slashHeld
-        navigatorWidth: _panel.navigatorWidth
-        onOpenImageDialog: _top.addImages()
-        onFocusWanted: _top.takeFocus()
+
+    DropArea {
+        id: _drop
+
+        anchors.fill: _work
+        enabled: _top.windowState.imageOpen && !_top.windowState.isExporting && !_top.windowState.pluginMode
+
+        Rectangle {
+            anchors.fill: parent
+            visible: _drop.containsDrag && !_drop.drag.source
+            color: _theme.primary50
+            opacity: 0.5
+        }
     }
+
     FocusScope {
         id: _globalFocus
         focus: true

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import PebbleUI
 import imageenhance
@@ -57,11 +58,19 @@ Item {
         anchors.rightMargin: (_top.windowState.imageOpen ? _top.panel.width : 0) + PebbleStyle.size.spacingLarge
         anchors.topMargin: _top.workAreaTop + PebbleStyle.size.spacingLarge
     }
-    DebugConsoleLoader {
+    Loader {
+        id: _console
         anchors { left: parent.left; bottom: parent.bottom; leftMargin: 24; bottomMargin: 96 }
-        available: _top.developerMode
-        controls: _top.windowState.controls
-        panel: _top.panel
-        settings: _top.settings
+        active: false
+        sourceComponent: DebugConsole {
+            controls: _top.windowState.controls
+            panel: _top.panel
+            settings: _top.settings
+        }
+    }
+    Shortcut {
+        sequence: "Ctrl+Shift+D"
+        enabled: _top.developerMode
+        onActivated: _console.active = !_console.active
     }
 }

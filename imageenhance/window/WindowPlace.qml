@@ -1,13 +1,16 @@
 import QtQuick
+import QtQuick.Controls
+import AppContext
+import TQmlUtils
 import imageenhance
 
 // Where the window stands and whether it is maximized, from one session to the next.
 QtObject {
     id: _top
 
-    required property var appWindow // ApplicationWindow
-    required property var appContext // AppContext
-    required property var osUtils // OSUtils
+    required property ApplicationWindow appWindow
+    required property AppContext appContext
+    required property OSUtils osUtils
     required property MainSettings settings
 
     // The height by which a native title bar would push the content down.

@@ -2,7 +2,6 @@ list(APPEND STUDIO_QML
   window/AppCommands.qml
   window/AppShortcuts.qml
   window/DebugConsole.qml
-  window/DebugConsoleLoader.qml
   window/DimensionsHeader.qml
   window/OpenImageDialog.qml
   window/WindowContent.qml
@@ -10,5 +9,4 @@ list(APPEND STUDIO_QML
   window/WindowPlace.qml
   window/WindowStart.qml
   window/WinTitleBar.qml
-  window/WorkArea.qml
 )

@@ -11,6 +11,7 @@ Item {
     required property string name // "Original Image" or "Preview Image"
     required property var imageData // image map or result
     required property size actualImageSize // of the whole picture as enlarged
+    required property PreviewInput input
     required property real currentZoom
     required property real currentScale
     property real pixelRatio: 1
@@ -21,7 +22,6 @@ Item {
     property bool interactive: true
     property bool mouseWheelEnabled: true
     property bool animateMovement: true
-    property bool panKeyHeld: false
     property real viewportStartX: 0
     property real viewportEndX: 1
     property Item viewport: null // the item that the two fractions refer to
@@ -36,10 +36,6 @@ Item {
     readonly property bool panning: _flick.moving || _flick.dragging
     readonly property bool pressed: _pointer.pressed
     readonly property bool showOriginal: panning || pressed
-
-    signal wheelTurned(real delta)
-    signal rightClicked(point windowPoint)
-    signal focusWanted
 
     // To a position of the content; `scaled` when x and y are pixels of the picture.
     function moveTo(x: real, y: real, animate = true, scaled = false): void {
@@ -105,12 +101,10 @@ Item {
 
             width: _flick.contentWidth
             height: _flick.contentHeight
+            input: _top.input
             pannable: _flick.interactive
             panning: _top.panning
             wheelEnabled: _top.mouseWheelEnabled
-            onWheelTurned: delta => _top.wheelTurned(delta)
-            onRightClicked: point => _top.rightClicked(point)
-            onFocusWanted: _top.focusWanted()
         }
     }
 

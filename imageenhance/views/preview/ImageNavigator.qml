@@ -8,13 +8,10 @@ import "../../utils/viewport.mjs" as Viewport
 Item {
     id: _top
 
-    required property var imageData
+    required property PreviewSource source
+    required property ImagePreviewState previewState
     required property FlickableImage picture // whose view the frame is
-    required property size imageSize
-    required property rect cropRect
-    required property real cropRotation
     required property bool frameShown
-    required property bool srgbFallback
 
     readonly property int maxHeight: 150
     readonly property rect fillRect: _private.rect(Viewport.navigatorRect(_private.cropped, width, maxHeight))
@@ -30,11 +27,11 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         width: _top.fillRect.width
         height: _top.fillRect.height
-        imageData: _top.imageData
-        srgbFallback: _top.srgbFallback
-        imageSize: _top.imageSize
-        cropRect: _top.cropRect
-        imageRotation: _top.cropRotation
+        imageData: _top.source.input
+        srgbFallback: _top.source.srgbFallback
+        imageSize: _top.source.inputSize
+        cropRect: _top.previewState.shownCrop
+        imageRotation: _top.previewState.shownRotation
         Accessible.role: Accessible.Graphic
         Accessible.name: qsTr("Navigator")
 
@@ -92,7 +89,7 @@ Item {
     QtObject {
         id: _private
 
-        readonly property size cropped: Qt.size(_top.imageSize.width * _top.cropRect.width, _top.imageSize.height * _top.cropRect.height)
+        readonly property size cropped: Qt.size(_top.source.inputSize.width * _top.previewState.shownCrop.width, _top.source.inputSize.height * _top.previewState.shownCrop.height)
 
         function rect(r: var): rect {
             return Qt.rect(r.x, r.y, r.width, r.height);

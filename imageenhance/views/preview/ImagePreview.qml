@@ -9,28 +9,26 @@ Item {
 
     enum ViewMode { SingleView, SideBySideView, SplitView }
 
-    required property var engine // ImageProcessor
+    required property ImageProcessor engine
     required property WindowState windowState
     required property MainSettings settings
-    required property bool panKeyHeld
     required property bool originalKeyHeld
     required property int navigatorWidth
 
-    readonly property rect procRoi: _stage.previewState.boundingRect
-    readonly property rect roi: _stage.pictures.original.roi
-    readonly property bool moving: _stage.previewState.moving
-    readonly property bool isPanning: _stage.pictures.original.panning || _stage.pictures.preview.panning
+    readonly property rect procRoi: _state.boundingRect
+    readonly property rect roi: _pictures.original.roi
+    readonly property bool moving: _state.moving
+    readonly property bool isPanning: _pictures.original.panning || _pictures.preview.panning
     readonly property var beforeImage: _source.input.image ?? null
     readonly property alias beforeImageEmpty: _source.inputEmpty
     readonly property bool imageLoaded: !beforeImageEmpty
-    readonly property bool originalRequested: originalKeyHeld || _private.originalActive
+    readonly property bool originalRequested: _state.originalRequested
     readonly property bool showBefore: originalRequested
-    readonly property bool panningOffProcessedArea: _stage.previewState.panningOffProcessedArea
+    readonly property bool panningOffProcessedArea: _state.panningOffProcessedArea
     readonly property int viewMode: ImagePreview.ViewMode.SingleView
     readonly property alias navigator: _navigator
-    readonly property alias statusBar: _stage.statusBar
-    readonly property FlickableImage previewImage: _stage.pictures.preview
-    readonly property int progressState: statusBar.progressState
+    readonly property alias statusBar: _status
+    readonly property FlickableImage previewImage: _pictures.preview
 
     signal requestProc(rect roi)
     signal openImageDialog
@@ -38,12 +36,13 @@ Item {
     signal focusWanted
     signal selectionMaskPositionChanged(point position) // the pointer in a mask tool, in pixels of the input
 
-    function zoomIn(): void { _moves.zoomIn(); }
-    function zoomOut(): void { _moves.zoomOut(); }
-    function zoomToFit(): void { _moves.zoomToFit(); }
-    function resetZoom(): void { _moves.resetZoom(); }
-    function zoomToValue(value: real): void { _moves.zoomToValue(value); }
-    function setPreviewCenter(x: real, y: real, offset = false): void { _moves.setPreviewCenter(x, y, offset); }
+    // The input's picture leads all that moves the view from outside the pictures.
+    function zoomIn(): void { _pictures.leadingZoom().incrementZoom(); }
+    function zoomOut(): void { _pictures.leadingZoom().decrementZoom(); }
+    function zoomToFit(): void { _pictures.leadingZoom().setToFit(); }
+    function resetZoom(): void { _pictures.leadingZoom().setToDefault(); }
+    function zoomToValue(value: real): void { _pictures.leadingZoom().setZoomLevel(value); }
+    function setPreviewCenter(x: real, y: real, offset = false): void { _pictures.moveTo(x, y, offset); }
 
     function setViewMode(mode: int): void {
         if (mode < ImagePreview.ViewMode.SingleView || mode > ImagePreview.ViewMode.SplitView)
@@ -63,45 +62,74 @@ Item {
         engine: _top.engine
         windowState: _top.windowState
         onAnotherImage: {
-            _private.originalActive = false;
-            _moves.moveToCenter();
-            Qt.callLater(_moves.moveToCenter); // sizes may not stand yet
+            _state.originalActive = false;
+            _pictures.moveToCenter();
+            Qt.callLater(_pictures.moveToCenter); // sizes may not stand yet
         }
     }
 
-    PreviewStage {
-        id: _stage
+    ImagePreviewState {
+        id: _state
 
-        anchors.fill: parent
-        anchors.bottomMargin: _controls.height
-        engine: _top.engine
         windowState: _top.windowState
         source: _source
-        zoomControl: _controls.zoomControl
-        panKeyHeld: _top.panKeyHeld
-        originalRequested: _top.originalRequested
-        srgbFallback: _top.settings.srgbFallback
-        onViewChanged: _private.requestProc()
-        onRightClicked: point => _top.showRightClickMenuAtPoint(point)
-        onFocusWanted: _top.focusWanted()
+        realSize: _pictures.realSize
+        boundingRect: _pictures.original.boundingRect
+        originalKeyHeld: _top.originalKeyHeld
+        moving: _pictures.moving || _controls.zoomControl.pressed
+        navigating: _navigator.panning
+        onRequestProc: roi => _top.requestProc(roi)
+    }
+
+    Item {
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: _controls.top }
+
+        PicturePair {
+            id: _pictures
+
+            anchors.fill: parent
+            previewState: _state
+            source: _source
+            zoomControl: _controls.zoomControl
+            input.onRightClicked: point => _top.showRightClickMenuAtPoint(point)
+            input.onFocusWanted: _top.focusWanted()
+        }
+
+        BusyCover {
+            anchors.fill: parent
+            running: _top.windowState.imageOpen && _top.windowState.isLoading
+        }
+
+        StatusBar {
+            id: _status
+
+            anchors { left: parent.left; bottom: parent.bottom; margins: 10 }
+            engine: _top.engine
+            editMode: _top.windowState.editMode
+            imageLoaded: _top.imageLoaded
+            isLoadingImage: _top.windowState.isLoading
+            isRunningAutopilot: _top.windowState.autopilotRunning
+            originalRequested: _top.originalRequested
+            noFiltersEnabled: !_top.windowState.controls.areFiltersEnabled
+            previewUpdated: _state.hasResult
+            panningOffProcessedArea: _state.panningOffProcessedArea
+            inpaintLocked: false
+        }
     }
 
     ImageNavigator {
         id: _navigator
 
         width: _top.navigatorWidth
-        imageData: _source.input
-        srgbFallback: _top.settings.srgbFallback
-        picture: _stage.pictures.original
-        imageSize: _source.inputSize
-        cropRect: _stage.previewState.shownCrop
-        cropRotation: _stage.previewState.shownRotation
+        source: _source
+        previewState: _state
+        picture: _pictures.original
         frameShown: _top.imageLoaded && !_top.windowState.isLoading
         onGrabbed: {
-            _stage.pictures.leadWithOriginal();
+            _pictures.leadWithOriginal();
             _top.focusWanted();
         }
-        onReleased: _private.requestProc()
+        onReleased: _state.rest()
         onRightClicked: point => _top.showRightClickMenuAtPoint(point)
     }
 
@@ -109,39 +137,12 @@ Item {
         id: _controls
 
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        pluginMode: _top.windowState.pluginMode
+        windowState: _top.windowState
+        previewState: _state
+        settings: _top.settings
         imageLoaded: _top.imageLoaded
-        isLoading: _top.windowState.isLoading
-        editMode: _top.windowState.editMode
-        originalActive: _private.originalActive
-        fitScale: _stage.previewState.fitZoom
-        outputScale: _stage.previewState.scale
-        followsUpscale: _top.settings.updateZoomAfterUpscale
+        originalActive: _state.originalActive
         onAddImages: _top.openImageDialog()
-        onToggleOriginal: _private.originalActive = !_private.originalActive
-    }
-
-    PreviewMoves {
-        id: _moves
-        pictures: _stage.pictures
-        zoomControl: _controls.zoomControl
-    }
-
-    QtObject {
-        id: _private
-
-        property bool originalActive: false
-
-        // Several changes of one move make one request.
-        function requestProc(): void {
-            if (_top.moving || _navigator.panning)
-                return;
-            originalActive = false;
-            Qt.callLater(_private.emitRequest);
-        }
-
-        function emitRequest(): void {
-            _top.requestProc(_top.procRoi);
-        }
+        onToggleOriginal: _state.originalActive = !_state.originalActive
     }
 }

@@ -10,10 +10,6 @@ PropertyLinker {
     required property FlickableImage originalImage
     required property FlickableImage previewImage
 
-    function leadWithOriginal(): void {
-        setActive("Original");
-    }
-
     PropertyTracker {
         name: "Original"
         target: _top.originalImage

@@ -8,23 +8,47 @@ Item {
 
     required property ImagePreviewState previewState
     required property ImageZoomControl zoomControl
-    required property size imageSize
-    required property var beforeImageData
-    required property var procResult
-    required property real pixelRatio
-    required property bool panKeyHeld
-    required property bool srgbFallback
+    required property PreviewSource source
 
     readonly property alias original: _original
     readonly property alias preview: _preview
+    readonly property alias input: _input
     readonly property size realSize: _view.realSize
     readonly property bool moving: _preview.showOriginal || _original.animating || _original.showOriginal || _view.moving || _pinch.active
 
-    signal rightClicked(point windowPoint)
-    signal focusWanted
-
+    // The input's picture, until the user moves the other one.
     function leadWithOriginal(): void {
-        _link.leadWithOriginal();
+        _link.setActive("Original");
+    }
+
+    function leadingZoom(): ImageZoomControl {
+        leadWithOriginal();
+        return zoomControl;
+    }
+
+    // To a point of the picture: its corner, or with `offset` its middle.
+    function moveTo(x: real, y: real, offset: bool): void {
+        leadWithOriginal();
+        _original.moveTo(offset ? x - _original.roi.width / 2 : x, offset ? y - _original.roi.height / 2 : y, false, true);
+    }
+
+    // A new image stands in the middle at its own size.
+    function moveToCenter(): void {
+        leadingZoom().setZoomLevel(1);
+        _original.centre();
+    }
+
+    PreviewInput {
+        id: _input
+
+        property real wheelSum: 0
+
+        onWheelTurned: delta => {
+            const turned = Viewport.wheel(wheelSum, delta, _top.zoomControl.currentZoom);
+            wheelSum = turned.sum;
+            if (turned.zoom !== _top.zoomControl.currentZoom)
+                _top.leadingZoom().setZoomLevel(turned.zoom);
+        }
     }
 
     SingleImageView {
@@ -39,43 +63,37 @@ Item {
         id: _original
 
         name: "Original Image"
-        imageData: _top.beforeImageData
-        actualImageSize: _top.imageSize
+        input: _input
+        imageData: _top.source.input
+        actualImageSize: _top.source.inputSize
         currentZoom: _top.zoomControl.currentZoom
         currentScale: _top.previewState.scale
-        pixelRatio: _top.pixelRatio
+        pixelRatio: _top.previewState.pixelRatio
         cropRect: _top.previewState.shownCrop
         cropRotation: _top.previewState.shownRotation
         viewport: _top
-        srgbFallback: _top.srgbFallback
+        srgbFallback: _top.source.srgbFallback
         showImage: !_top.previewState.previewShown
         mouseWheelEnabled: !_top.previewState.cropping
-        panKeyHeld: _top.panKeyHeld
-        onWheelTurned: delta => _private.wheel(delta)
-        onRightClicked: point => _top.rightClicked(point)
-        onFocusWanted: _top.focusWanted()
     }
 
     FlickableImage {
         id: _preview
 
         name: "Preview Image"
-        imageData: _top.previewState.isOfThisImage ? _top.procResult : ({})
-        actualImageSize: Qt.size(_top.imageSize.width * _top.previewState.scale, _top.imageSize.height * _top.previewState.scale)
+        input: _input
+        imageData: _top.previewState.isOfThisImage ? _top.source.result : ({})
+        actualImageSize: Qt.size(_top.source.inputSize.width * _top.previewState.scale, _top.source.inputSize.height * _top.previewState.scale)
         currentZoom: _top.zoomControl.currentZoom / _top.previewState.scale
         currentScale: _top.previewState.scale
-        pixelRatio: _top.pixelRatio
+        pixelRatio: _top.previewState.pixelRatio
         cropRect: _top.previewState.shownCrop
         cropRotation: _top.previewState.shownRotation
         viewport: _top
-        srgbFallback: _top.srgbFallback
+        srgbFallback: _top.source.srgbFallback
         animateMovement: false
         showImage: _top.previewState.previewShown
         mouseWheelEnabled: !_top.previewState.cropping
-        panKeyHeld: _top.panKeyHeld
-        onWheelTurned: delta => _private.wheel(delta)
-        onRightClicked: point => _top.rightClicked(point)
-        onFocusWanted: _top.focusWanted()
     }
 
     PanningLink {
@@ -88,7 +106,7 @@ Item {
     // Beside the picture; over it the wheel comes through the picture's own pointer.
     WheelHandler {
         enabled: !_top.previewState.cropping
-        onWheel: event => _private.wheel(event.angleDelta.y)
+        onWheel: event => _input.wheelTurned(event.angleDelta.y)
     }
 
     PinchHandler {
@@ -102,21 +120,6 @@ Item {
         onActiveScaleChanged: {
             if (active)
                 _top.zoomControl.setZoomLevel(Viewport.pinchZoom(zoomBefore, activeScale, _top.previewState.fitZoom));
-        }
-    }
-
-    QtObject {
-        id: _private
-
-        property real wheelSum: 0
-
-        function wheel(delta: real): void {
-            const turned = Viewport.wheel(wheelSum, delta, _top.zoomControl.currentZoom);
-            wheelSum = turned.sum;
-            if (turned.zoom !== _top.zoomControl.currentZoom) {
-                _top.leadWithOriginal();
-                _top.zoomControl.setZoomLevel(turned.zoom);
-            }
         }
     }
 }

@@ -7,21 +7,16 @@ import imageenhance
 Rectangle {
     id: _top
 
-    required property bool pluginMode
+    required property WindowState windowState
+    required property ImagePreviewState previewState
+    required property MainSettings settings
     required property bool imageLoaded
-    required property bool isLoading
-    required property int editMode // EditMode
     required property bool originalActive
-    required property real fitScale
-    required property real outputScale
-    required property bool followsUpscale
 
     readonly property alias zoomControl: _zoom
 
     signal addImages
     signal toggleOriginal
-
-    readonly property bool _masking: [EditMode.Inpaint, EditMode.Subject, EditMode.Text].includes(editMode)
 
     implicitHeight: 48
     color: PebbleStyle.color.panelBkg
@@ -33,7 +28,7 @@ Rectangle {
         spacing: PebbleStyle.size.spacingSmall
 
         PbButton {
-            visible: !_top.pluginMode
+            visible: !_top.windowState.pluginMode
             type: PbButton.Type.Tertiary
             compact: true
             iconSource: PebbleStyle.icon.imageAdd
@@ -41,7 +36,7 @@ Rectangle {
             onClicked: _top.addImages()
         }
         PbLabel {
-            visible: _top._masking
+            visible: _top.windowState.isMasking
             color: PebbleStyle.color.lightGray
             text: qsTr("Hold space to pan")
         }
@@ -49,7 +44,7 @@ Rectangle {
             Layout.fillWidth: true
         }
         PbButton {
-            visible: _top.editMode !== EditMode.Crop
+            visible: !_top.windowState.isCropping
             enabled: _top.imageLoaded
             type: PbButton.Type.Tertiary
             compact: true
@@ -61,10 +56,10 @@ Rectangle {
         }
         ImageZoomControl {
             id: _zoom
-            enabled: _top.imageLoaded && !_top.isLoading && _top.editMode !== EditMode.Crop
-            fitScale: _top.fitScale
-            outputScale: _top.outputScale
-            followsUpscale: _top.followsUpscale
+            enabled: _top.imageLoaded && !_top.windowState.isLoading && !_top.windowState.isCropping
+            fitScale: _top.previewState.fitZoom
+            outputScale: _top.previewState.scale
+            followsUpscale: _top.settings.updateZoomAfterUpscale
         }
     }
 }

@@ -5,11 +5,12 @@ import imageenhance
 QtObject {
     id: _top
 
-    required property var engine // ImageProcessor
+    required property ImageProcessor engine
     required property WindowState windowState
 
     readonly property var input: windowState.hidesPreview ? ({}) : engine.inputImage // image map
     readonly property var result: windowState.hidesPreview ? ({}) : engine.procResult // result map
+    readonly property bool srgbFallback: windowState.helpers.settings.srgbFallback
     readonly property bool inputEmpty: windowState.helpers.imageDataUtils.isEmpty(input.image)
     readonly property size inputSize: windowState.helpers.imageDataUtils.imageSize(input.image)
 

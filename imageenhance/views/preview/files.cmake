@@ -9,10 +9,9 @@ list(APPEND STUDIO_QML
   views/preview/PictureGlide.qml
   views/preview/PicturePair.qml
   views/preview/PreviewControls.qml
-  views/preview/PreviewMoves.qml
+  views/preview/PreviewInput.qml
   views/preview/PreviewPointer.qml
   views/preview/PreviewSource.qml
-  views/preview/PreviewStage.qml
   views/preview/SingleImageView.qml
   views/preview/ZoomList.qml
 )
