@@ -48,6 +48,7 @@ void CLIApplication::connectAll() {
     connect(&m_engine, &TEngineController::procError, this, &CLIApplication::engineError);
     connect(&m_engine, &TEngineController::procResultChanged, this, &CLIApplication::engineFinished);
     connect(&m_writer, &TImageWriter::imageSaved, this, &CLIApplication::imageSaved);
+    connect(&m_writer, &TImageWriter::savedElsewhere, this, &CLIApplication::savedElsewhere);
     connect(&m_writer, &TImageWriter::errorSaving, this, &CLIApplication::errorSaving);
     connect(&m_writer, &TImageWriter::canWriteChanged, this, &CLIApplication::canWrite);
     connect(this, &CLIApplication::startNext, this, &CLIApplication::processFiles);
@@ -88,15 +89,18 @@ int CLIApplication::run(const AppContext &context) {
     configureAutopilot(settings, m_engine, m_controls);
     m_controls.setModelParamInfo(m_engine.modelParamInfo());
 
-    m_controls.loadImages(files, false);
+    // The model complains in the log when it is to show one of no images; nobody is helped by that.
+    if (!files.isEmpty())
+        m_controls.loadImages(files, false);
     const qsizetype total = m_controls.loadedImages().size();
     if (total == 0) {
         console::errLine(u"No valid image files passed"_s);
         return -1;
     }
     startTracking(context);
+    m_naming.setInputs(files);
     for (const QString &path : std::as_const(m_options.missingPaths))
-        m_outcome.failed(path, u"There is no such file or folder"_s);
+        m_outcome.failed(path, tr("There is no such file or folder"));
 
     m_controls.setCurrentIndex(-1, false);
     QTimer::singleShot(0, this, &CLIApplication::processFiles);
@@ -200,13 +204,13 @@ void CLIApplication::processImage(const QVariantMap &input) {
         m_engine.startProc(m_engine.inputImage(), QRect(image->roi()), m_controls.currentControls(),
                            m_controls.filterOrder(), true);
     } else if (m_options.keepGoing) {
-        settleCurrent(u"The file gave no picture"_s);
+        settleCurrent(tr("The file gave no picture"));
     }
 }
 
 void CLIApplication::engineCanceled() {
     qCritical() << "[CLI] Engine canceled processing";
-    engineFailed(u"Processing was cancelled"_s);
+    engineFailed(tr("Processing was cancelled"));
 }
 
 void CLIApplication::engineError(const QString &msg) {
@@ -232,7 +236,7 @@ void CLIApplication::engineFinished() {
     qCritical() << "Engine returned null image pointer";
     if (m_options.keepGoing) {
         const QString error = result.value(u"error"_s).toString();
-        settleCurrent(error.isEmpty() ? u"Processing gave no picture"_s : error);
+        settleCurrent(error.isEmpty() ? tr("Processing gave no picture") : error);
     }
 }
 
@@ -243,7 +247,7 @@ void CLIApplication::saveResult(const std::shared_ptr<ImageData> &image) {
     qInfo() << "[CLI] Input image:" << input;
     qInfo() << "[CLI] Output image:" << output;
     m_underWay = false;
-    m_writes.append({output, input});
+    m_writes.append({output, input, output});
     m_writer.saveImage(image, input, output, m_reader.imagedata(), writerOptions(kind.format, m_options));
     if (m_canWrite) {
         Q_EMIT startNext();
@@ -263,16 +267,26 @@ void CLIApplication::canWrite() {
     Q_EMIT startNext();
 }
 
+// Comes before imageSaved, where the writer could not use the path that it was given.
+void CLIApplication::savedElsewhere(const QString &outputPath, const QString &writtenPath) {
+    m_naming.reserve(writtenPath);
+    for (Write &write : m_writes) {
+        if (write.output == outputPath)
+            write.written = writtenPath;
+    }
+}
+
 void CLIApplication::imageSaved(const QString &outputPath, qlonglong) {
-    qInfo() << "[CLI] Saved file:" << outputPath;
-    m_outcome.succeeded(takeInput(outputPath));
+    const Write write = takeWrite(outputPath);
+    qInfo() << "[CLI] Saved file:" << write.written;
+    m_outcome.succeeded(write.input);
     countFinished();
 }
 
 void CLIApplication::errorSaving(const QString &outputPath, const QString &error) {
     console::errLine(u"Could not save file '"_s + outputPath + u"' Error: "_s + error);
     qInfo() << "[CLI] Error saving file:" << outputPath << "Error:" << error;
-    m_outcome.failed(takeInput(outputPath), error);
+    m_outcome.failed(takeWrite(outputPath).input, error);
     countFinished();
 }
 
@@ -315,17 +329,14 @@ void CLIApplication::startNextWhenPossible() {
         Q_EMIT startNext();
 }
 
-// The writer answers in the order of the writes. It may have used another path than it was given,
-// where the format of that one can only be read.
-QString CLIApplication::takeInput(const QString &outputPath) {
-    if (m_writes.isEmpty())
-        return {};
+CLIApplication::Write CLIApplication::takeWrite(const QString &outputPath) {
     const auto found = std::find_if(m_writes.cbegin(), m_writes.cend(),
                                     [&](const Write &write) { return write.output == outputPath; });
-    const auto answered = found == m_writes.cend() ? m_writes.cbegin() : found;
-    const QString input = answered->input;
-    m_writes.erase(answered);
-    return input;
+    if (found == m_writes.cend())
+        return {outputPath, {}, outputPath};
+    const Write write = *found;
+    m_writes.erase(found);
+    return write;
 }
 
 void CLIApplication::interrupt(int exitCode) {

@@ -62,16 +62,23 @@ public Q_SLOTS:
     void canWrite();
 
 private:
+    struct Write {
+        QString output; ///< the path that was asked for
+        QString input;
+        QString written; ///< where the file really lies
+    };
+
     void connectAll();
     void waitForModels(const QString &modelDirectory);
     void startTracking(const AppContext &context);
     void processImage(const QVariantMap &input);
+    void savedElsewhere(const QString &outputPath, const QString &writtenPath);
     void saveResult(const std::shared_ptr<ImageData> &image);
     void countFinished();
     void engineFailed(const QString &reason);
     void settleCurrent(const QString &failure = QString());
     void startNextWhenPossible();
-    QString takeInput(const QString &outputPath);
+    Write takeWrite(const QString &outputPath);
     void interrupt(int exitCode);
     int exitCode();
 
@@ -94,10 +101,6 @@ private:
     std::optional<int> m_interruptCode;
     Progress m_progress;
 
-    struct Write {
-        QString output;
-        QString input;
-    };
     BatchOutcome m_outcome;
     bool m_underWay = false; ///< the current file is being read, analysed or processed
     QList<Write> m_writes;   ///< handed to the writer and not answered, in order

@@ -1,5 +1,6 @@
 #include "cli/OutputNaming.h"
 
+#include "frontends/FileBackends.h"
 #include "frontends/TImageUtils.h"
 
 #include <QDir>
@@ -76,6 +77,13 @@ QString identityOf(const QString &path) {
     return folder.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : folder + u'/' + info.fileName();
 }
 
+// Formats that can only be read are saved as TIFF.
+QString writtenExtension(const QString &extension) {
+    const FileFormats &formats = fileFormats();
+    const QString lower = extension.toLower();
+    return formats.readable.contains(lower) && !formats.writable.contains(lower) ? u"tif"_s : extension;
+}
+
 } // namespace
 
 OutputKind outputKind(const QString &inputPath, OutputFormat requested) {
@@ -92,20 +100,35 @@ OutputKind outputKind(const QString &inputPath, OutputFormat requested) {
 
 QString OutputNaming::pathFor(const QString &inputPath, const QString &extension,
                               const BatchOptions &options) {
-    QString output = options.outputFolder.isEmpty() ? replaceExtension(inputPath, extension)
-                                                    : pathInFolder(inputPath, extension, options);
-    if (options.overwrite)
-        return output;
-    for (int i = 1; isTaken(output); ++i) {
+    const QString written = writtenExtension(extension);
+    QString output = options.outputFolder.isEmpty() ? replaceExtension(inputPath, written)
+                                                    : pathInFolder(inputPath, written, options);
+    bool mayReplace = options.overwrite && written == extension;
+    const auto isTaken = [&] {
+        const QString identity = identityOf(output);
+        if (m_given.contains(identity))
+            return true;
+        if (!mayReplace)
+            return QFileInfo::exists(output);
+        return m_inputs.contains(identity) && identity != identityOf(inputPath);
+    };
+    for (int i = 1; isTaken(); ++i) {
         QString base = withoutExtension(output);
         if (i > 1)
             base.truncate(base.lastIndexOf(u'-'));
-        output = base + u'-' + QString::number(i) + u'.' + extension;
+        output = base + u'-' + QString::number(i) + u'.' + written;
+        mayReplace = false;
     }
-    m_given.insert(identityOf(output));
+    reserve(output);
     return output;
 }
 
-bool OutputNaming::isTaken(const QString &path) const {
-    return QFileInfo::exists(path) || m_given.contains(identityOf(path));
+void OutputNaming::setInputs(const QStringList &inputs) {
+    m_inputs.clear();
+    for (const QString &input : inputs)
+        m_inputs.insert(identityOf(input));
+}
+
+void OutputNaming::reserve(const QString &path) {
+    m_given.insert(identityOf(path));
 }

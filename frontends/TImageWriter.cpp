@@ -14,9 +14,9 @@ WriteResult write(ImageFileBackend &backend, const WriteRequest &request, const 
     if (control.stopped())
         return {.cancelled = true};
     if (!request.image || request.image->isNull())
-        return {.error = QStringLiteral("There is no picture to write.")};
+        return {.error = TImageWriter::tr("There is no picture to write.")};
     if (request.outputPath.isEmpty())
-        return {.error = QStringLiteral("There is no path to write the picture to.")};
+        return {.error = TImageWriter::tr("There is no path to write the picture to.")};
     return backend.write(request, control);
 }
 

@@ -1,5 +1,7 @@
 #include "imageio/ByteSource.h"
 
+#include "imageio/Text.h"
+
 #include <QFileInfo>
 
 #include <array>
@@ -10,19 +12,19 @@ namespace imageio {
 QString ByteSource::open(const QString &path) {
     const QFileInfo info(path);
     if (path.isEmpty())
-        return QStringLiteral("No file was named.");
+        return Text::tr("No file was named.");
     if (!info.exists())
-        return info.isSymLink() ? QStringLiteral("The file is a link to a file that does not exist.")
-                                : QStringLiteral("The file does not exist.");
+        return info.isSymLink() ? Text::tr("The file is a link to a file that does not exist.")
+                                : Text::tr("The file does not exist.");
     if (info.isDir())
-        return QStringLiteral("This is a folder, not a file.");
+        return Text::tr("This is a folder, not a file.");
     if (!info.isFile())
-        return QStringLiteral("This is a device or pipe, not a file.");
+        return Text::tr("This is a device or pipe, not a file.");
     if (info.size() == 0)
-        return QStringLiteral("The file is empty.");
+        return Text::tr("The file is empty.");
     m_file.setFileName(path);
     if (!m_file.open(QIODevice::ReadOnly))
-        return QStringLiteral("The file can't be opened: %1.").arg(m_file.errorString());
+        return Text::tr("The file can't be opened: %1.").arg(m_file.errorString());
     m_size = m_file.size();
     return {};
 }

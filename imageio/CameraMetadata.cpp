@@ -128,12 +128,21 @@ void startMetadataLibrary() {
     });
 }
 
+void readSoundPart(Exiv2::Image &image, const QString &path) {
+    try {
+        image.readMetadata();
+    } catch (const std::exception &e) {
+        qWarning().noquote() << "The metadata or the colour profile is damaged and was left out in part:"
+                             << path << e.what();
+    }
+}
+
 CameraMetadata readCameraMetadata(const QString &path) {
     startMetadataLibrary();
     CameraMetadata result;
     try {
         const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-        image->readMetadata();
+        readSoundPart(*image, path);
         if (image->iccProfileDefined()) {
             const Exiv2::DataBuf &icc = image->iccProfile();
             result.icc = QByteArray(reinterpret_cast<const char *>(icc.c_data()), qsizetype(icc.size()));

@@ -3,6 +3,10 @@
 #include <QByteArray>
 #include <QVariantMap>
 
+namespace Exiv2 {
+class Image;
+}
+
 namespace imageio {
 
 /// What the text part of a file says. Keys of `fields`, each present only when the file tells it:
@@ -20,6 +24,9 @@ struct CameraMetadata {
 
 /// Empty when the file has none or it can't be read; never fails.
 CameraMetadata readCameraMetadata(const QString &path);
+
+/// Reads a file's metadata up to where it is damaged, and says in the log when it is.
+void readSoundPart(Exiv2::Image &image, const QString &path);
 
 /// Prepares the metadata library for use from several threads; called by everything that uses it.
 void startMetadataLibrary();

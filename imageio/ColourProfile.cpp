@@ -35,10 +35,10 @@ QByteArray toBytes(const Profile &profile) {
         return {};
     QByteArray bytes(qsizetype(size), '\0');
     cmsSaveProfileToMem(profile.get(), bytes.data(), &size);
-    // The header holds the time of making; a fixed one keeps files the same from run to run.
-    static constexpr quint16 Made[] = {2024, 1, 1, 0, 0, 0};
+    // The header holds the time of creation; a fixed one keeps files the same from run to run.
+    static constexpr quint16 Created[] = {2024, 1, 1, 0, 0, 0};
     for (int i = 0; i < 6; ++i)
-        qToBigEndian(Made[i], bytes.data() + 24 + 2 * i);
+        qToBigEndian(Created[i], bytes.data() + 24 + 2 * i);
     return bytes;
 }
 
@@ -78,10 +78,53 @@ std::shared_ptr<void> link(const Profile &from, Layout fromLayout, const Profile
     return handle ? std::shared_ptr<void>(handle, &cmsDeleteTransform) : nullptr;
 }
 
+constexpr qsizetype HeaderBytes = 132; ///< with the number of tags
+
+quint32 numberAt(const QByteArray &icc, qsizetype at) {
+    return qFromBigEndian<quint32>(icc.constData() + at);
+}
+
+/// What readers of PNG and others insist on; the colour library is more lenient.
+bool isWellFormed(const QByteArray &icc) {
+    constexpr qsizetype EntryBytes = 12;
+    const quint32 size = quint32(icc.size());
+    const quint32 tags = numberAt(icc, 128);
+    if (icc.mid(36, 4) != "acsp" || (icc.at(8) > 3 && size % 4 != 0) || numberAt(icc, 64) > 0xffff ||
+        tags > (size - HeaderBytes) / EntryBytes)
+        return false;
+    for (quint32 i = 0; i < tags; ++i) {
+        const qsizetype entry = HeaderBytes + qsizetype(i) * EntryBytes;
+        const quint32 begin = numberAt(icc, entry + 4);
+        if (begin > size || numberAt(icc, entry + 8) > size - begin)
+            return false;
+    }
+    const QByteArray connection = icc.mid(20, 4);
+    const QByteArray kind = icc.mid(12, 4);
+    return (connection == "XYZ " || connection == "Lab ") && kind != "abst" && kind != "link";
+}
+
+/// Whether colours can be converted from the profile; of a kind that no picture here can have, it is not
+/// tried.
+bool convertsToSrgb(const QByteArray &icc) {
+    switch (profileModel(icc)) {
+    case ProfileModel::Grey:
+        return ColourTransform::toSrgb(icc, Layout::Grey8, Layout::Rgb8).isValid();
+    case ProfileModel::Rgb:
+        return ColourTransform::toSrgb(icc, Layout::Rgb8, Layout::Rgb8).isValid();
+    case ProfileModel::Cmyk:
+        return ColourTransform::toSrgb(icc, Layout::Cmyk8, Layout::Rgb8).isValid();
+    case ProfileModel::Other:
+        return true;
+    case ProfileModel::None:
+        break;
+    }
+    return false;
+}
+
 } // namespace
 
 ProfileModel profileModel(const QByteArray &icc) {
-    if (icc.size() < 132)
+    if (icc.size() < HeaderBytes)
         return ProfileModel::None;
     const Profile profile = fromBytes(icc);
     if (!profile)
@@ -96,6 +139,13 @@ ProfileModel profileModel(const QByteArray &icc) {
     default:
         return ProfileModel::Other;
     }
+}
+
+QByteArray usableProfile(const QByteArray &icc) {
+    if (icc.size() < HeaderBytes || numberAt(icc, 0) > quint64(icc.size()) || numberAt(icc, 0) < HeaderBytes)
+        return {};
+    const QByteArray whole = icc.first(numberAt(icc, 0));
+    return isWellFormed(whole) && convertsToSrgb(whole) ? whole : QByteArray();
 }
 
 bool isSrgb(const QByteArray &icc) {

@@ -10,6 +10,10 @@ namespace imageio {
 enum class ProfileModel { None, Grey, Rgb, Cmyk, Other };
 
 ProfileModel profileModel(const QByteArray &icc);
+/// The profile as a file may carry it: without bytes after its end, and empty when it is damaged so that
+/// writers or colour conversion would refuse it.
+QByteArray usableProfile(const QByteArray &icc);
+
 bool isSrgb(const QByteArray &icc);
 
 /// The same bytes on each call.

@@ -3,6 +3,7 @@
 #include "imageio/ColourProfile.h"
 #include "imageio/LosslessJpeg.h"
 #include "imageio/PixelConversion.h"
+#include "imageio/Text.h"
 #include "imageio/Thumbnail.h"
 
 #include <QFile>
@@ -192,7 +193,7 @@ bool writeTiles(TIFF *tiff, const ImageData &image, LinearRows &linear, const Ru
 Encoded encodeDng(const ImageData &image, const EncodePlan &plan, const QString &path,
                   const RunControl &control) {
     Encoded result;
-    const QString failed = QStringLiteral("The DNG file can't be written.");
+    const QString failed = Text::tr("The DNG file can't be written.");
     LinearRows linear(image);
     Tiff tiff = openForWriting(path);
     if (!tiff || !linear.isValid()) {

@@ -1,6 +1,7 @@
 #include "imageio/EncodeOptions.h"
 
 #include "imageio/SupportedFormats.h"
+#include "imageio/Text.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -86,8 +87,8 @@ EncodePlan planEncoding(const ImageData &image, const QString &extension, const 
     const auto kind = outputKind(extension);
     if (!kind) {
         plan.error = extension.isEmpty()
-                         ? QStringLiteral("The output name has no extension that tells its format.")
-                         : QStringLiteral("Pictures can't be written as \".%1\" files.").arg(extension);
+                         ? Text::tr("The output name has no extension that tells its format.")
+                         : Text::tr("Pictures can't be written as \".%1\" files.").arg(extension);
         return plan;
     }
     plan.kind = *kind;

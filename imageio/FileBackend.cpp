@@ -4,6 +4,7 @@
 #include "imageio/ImageWriting.h"
 #include "imageio/SizeEstimate.h"
 #include "imageio/SupportedFormats.h"
+#include "imageio/Text.h"
 #include "imageio/Thumbnail.h"
 
 #include <OpenImageIO/imageio.h>
@@ -14,6 +15,8 @@
 
 namespace {
 
+using imageio::Text;
+
 /// Runs `work` and turns whatever a library throws into a sentence.
 template <typename Result, typename Work>
 Result guarded(Work work) {
@@ -21,11 +24,11 @@ Result guarded(Work work) {
     try {
         return work();
     } catch (const std::bad_alloc &) {
-        result.error = QStringLiteral("There is not enough memory for this picture.");
+        result.error = Text::tr("There is not enough memory for this picture.");
     } catch (const std::exception &e) {
-        result.error = QStringLiteral("The file can't be handled: %1.").arg(QString::fromUtf8(e.what()));
+        result.error = Text::tr("The file can't be handled: %1.").arg(QString::fromUtf8(e.what()));
     } catch (...) {
-        result.error = QStringLiteral("The file can't be handled.");
+        result.error = Text::tr("The file can't be handled.");
     }
     return result;
 }

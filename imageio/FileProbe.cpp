@@ -2,6 +2,7 @@
 
 #include "imageio/DecodeLimits.h"
 #include "imageio/SupportedFormats.h"
+#include "imageio/Text.h"
 
 #include <QFileInfo>
 
@@ -61,8 +62,8 @@ bool holdsText(ByteSource &source) {
 
 QString unknownContent(ByteSource &source) {
     if (holdsText(source))
-        return QStringLiteral("The file holds text, not a picture.");
-    return QStringLiteral("The file is not a picture in a format that can be opened.");
+        return Text::tr("The file holds text, not a picture.");
+    return Text::tr("The file is not a picture in a format that can be opened.");
 }
 
 } // namespace
@@ -120,7 +121,8 @@ FileFacts probeFile(const QString &path) {
     facts.kind = kindByContent(source);
     const QString suffix = QFileInfo(path).suffix().toLower();
     const bool rawName = rawExtensions().contains(suffix);
-    if (rawName && (facts.kind == FileKind::Tiff || (facts.kind == FileKind::Unknown && !holdsText(source))))
+    const bool tiff = facts.kind == FileKind::Tiff;
+    if (rawName && (tiff || (facts.kind == FileKind::Unknown && !holdsText(source))))
         facts.kind = FileKind::Raw;
 
     switch (facts.kind) {
@@ -143,6 +145,8 @@ FileFacts probeFile(const QString &path) {
         probeHeif(source, facts);
         break;
     case FileKind::Raw:
+        if (tiff)
+            probeRawTiff(source, facts);
         break;
     case FileKind::Unknown:
         facts.error = unknownContent(source);

@@ -47,6 +47,9 @@ QString kindName(FileKind kind);
 void probeJpeg(ByteSource &source, FileFacts &facts);
 void probePng(ByteSource &source, FileFacts &facts);
 void probeTiff(ByteSource &source, FileFacts &facts);
+/// A camera file built on TIFF: of a DNG all of the picture must be there, since its library fills in what is
+/// not.
+void probeRawTiff(ByteSource &source, FileFacts &facts);
 void probeWebP(ByteSource &source, FileFacts &facts);
 void probeBmp(ByteSource &source, FileFacts &facts);
 void probeHeif(ByteSource &source, FileFacts &facts);

@@ -1,5 +1,6 @@
 #include "imageio/DecodeLimits.h"
 #include "imageio/FileProbe.h"
+#include "imageio/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -94,7 +95,7 @@ void probeHeif(ByteSource &source, FileFacts &facts) {
     for (const std::string_view b : Brands)
         brand = brand || source.startsWith(8, b);
     if (!brand) {
-        facts.error = QStringLiteral("The file is a video or another media file, not a picture.");
+        facts.error = Text::tr("The file is a video or another media file, not a picture.");
         return;
     }
     const Box meta = find(boxes(source, 0, source.size()), name("meta"));

@@ -5,6 +5,7 @@
 #include "imageio/Orientation.h"
 #include "imageio/PixelDecoder.h"
 #include "imageio/RawDecoder.h"
+#include "imageio/Text.h"
 #include "imageio/TiffDecoder.h"
 #include "imageio/WebpDecoder.h"
 
@@ -47,6 +48,14 @@ Decoded decode(const QString &path, const Opened &opened, int leastSide, const R
     }
 }
 
+/// A damaged one would keep the picture from being saved.
+QByteArray profileOf(const QByteArray &icc, const QString &path) {
+    const QByteArray usable = usableProfile(icc);
+    if (usable.isEmpty() && !icc.isEmpty())
+        qWarning().noquote() << "The colour profile is damaged and was left out:" << path;
+    return usable;
+}
+
 /// Turned by the decoder already: camera files by the developer, HEIF by its container.
 bool standsUpright(FileKind kind) {
     return kind == FileKind::Raw || kind == FileKind::Heif;
@@ -78,6 +87,7 @@ Opened openPicture(const QString &path, int leastSide, const RunControl &control
     opened.metadata = readCameraMetadata(path);
     if (!opened.facts.icc.isEmpty())
         opened.metadata.icc = opened.facts.icc;
+    opened.metadata.icc = profileOf(opened.metadata.icc, path);
     Decoded decoded = decode(path, opened, leastSide, control);
     opened.cancelled = decoded.cancelled || control.stopped();
     opened.error = opened.cancelled ? QString() : decoded.error;
@@ -101,7 +111,7 @@ Opened openPicture(const QString &path, int leastSide, const RunControl &control
                        ? std::move(decoded.image)
                        : upright(std::move(decoded.image), opened.metadata.orientation);
     if (!opened.image)
-        opened.error = QStringLiteral("There is not enough memory for this picture.");
+        opened.error = Text::tr("There is not enough memory for this picture.");
     return opened;
 }
 

@@ -5,6 +5,7 @@
 #include "imageio/FileProbe.h"
 #include "imageio/MetadataCarrier.h"
 #include "imageio/PixelEncoder.h"
+#include "imageio/Text.h"
 #include "imageio/WrittenFileCheck.h"
 
 #include <QDebug>
@@ -46,7 +47,10 @@ QString fillFile(const ImageData &image, const EncodePlan &plan, const WriteRequ
     corrections.resolutionUnit = resolution.unit;
     corrections.icc =
         plan.kind == OutputKind::Bmp || plan.kind == OutputKind::Dng ? QByteArray() : image.iccProfile();
-    corrections.sourceIsRaw = probeFile(request.inputPath).kind == FileKind::Raw;
+    const QVariant raw =
+        request.imageData.value(QStringLiteral("metadata")).toMap().value(QStringLiteral("isRaw"));
+    corrections.sourceIsRaw =
+        raw.isValid() ? raw.toBool() : probeFile(request.inputPath).kind == FileKind::Raw;
     const QString error = carryMetadata(request.inputPath, path, plan.kind, corrections);
     if (!error.isEmpty())
         return error;
@@ -70,11 +74,11 @@ Resolution resolutionOf(const QVariantMap &imageData) {
 WriteResult writePicture(const WriteRequest &request, const RunControl &control) {
     WriteResult result;
     if (!request.image || request.image->isNull()) {
-        result.error = QStringLiteral("There is no picture to save.");
+        result.error = Text::tr("There is no picture to save.");
         return result;
     }
     if (request.outputPath.isEmpty()) {
-        result.error = QStringLiteral("No output file was named.");
+        result.error = Text::tr("No output file was named.");
         return result;
     }
     if (control.stopped()) {
@@ -83,7 +87,7 @@ WriteResult writePicture(const WriteRequest &request, const RunControl &control)
     }
     const ImageRef image = cropRotate(request.image, request.imageData);
     if (!image) {
-        result.error = QStringLiteral("There is not enough memory to crop the picture.");
+        result.error = Text::tr("There is not enough memory to crop the picture.");
         return result;
     }
     result.outputPath = writablePath(request.outputPath);

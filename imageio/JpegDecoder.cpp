@@ -2,6 +2,7 @@
 
 #include "imageio/DecodeLimits.h"
 #include "imageio/RowSink.h"
+#include "imageio/Text.h"
 
 #include <QFile>
 
@@ -146,16 +147,15 @@ void run(Session &s, const FileFacts &facts, const QByteArray &icc, int shrink) 
 QString sentence(const Session &s) {
     switch (s.trouble) {
     case Trouble::Library:
-        return QStringLiteral("The JPEG data can't be decoded: %1.")
-            .arg(QString::fromLatin1(s.message.data()));
+        return Text::tr("The JPEG data can't be decoded: %1.").arg(QString::fromLatin1(s.message.data()));
     case Trouble::Damaged:
-        return QStringLiteral("The JPEG data is damaged.");
+        return Text::tr("The JPEG data is damaged.");
     case Trouble::EndsEarly:
         return limits::endsTooEarly();
     case Trouble::TooManyScans:
-        return QStringLiteral("The JPEG data has more than %1 passes.").arg(MaxScans);
+        return Text::tr("The JPEG data has more than %1 passes.").arg(MaxScans);
     case Trouble::Memory:
-        return QStringLiteral("There is not enough memory for this picture.");
+        return Text::tr("There is not enough memory for this picture.");
     case Trouble::Cancelled:
     case Trouble::None:
         break;
@@ -172,7 +172,7 @@ Decoded decodeJpeg(const QString &path, const FileFacts &facts, const QByteArray
     s.control = &control;
     s.file = std::fopen(QFile::encodeName(path).constData(), "rb");
     if (!s.file) {
-        result.error = QStringLiteral("The file can't be opened.");
+        result.error = Text::tr("The file can't be opened.");
         return result;
     }
     s.info.client_data = &s;

@@ -1,6 +1,7 @@
 #include "imageio/JpegEncoder.h"
 
 #include "imageio/PixelConversion.h"
+#include "imageio/Text.h"
 
 #include <QFile>
 
@@ -108,13 +109,13 @@ Encoded encodeJpeg(const ImageData &image, const EncodePlan &plan, const QString
     Encoded result;
     if (std::max(image.width(), image.height()) > JPEG_MAX_DIMENSION) {
         result.error =
-            QStringLiteral("A JPEG picture may have at most %1 pixels on a side.").arg(JPEG_MAX_DIMENSION);
+            Text::tr("A JPEG picture may have at most %1 pixels on a side.").arg(JPEG_MAX_DIMENSION);
         return result;
     }
     Session s;
     s.file = std::fopen(QFile::encodeName(path).constData(), "wb");
     if (!s.file) {
-        result.error = QStringLiteral("The JPEG file can't be written.");
+        result.error = Text::tr("The JPEG file can't be written.");
         return result;
     }
     s.info.client_data = &s;
@@ -124,10 +125,10 @@ Encoded encodeJpeg(const ImageData &image, const EncodePlan &plan, const QString
     run(s, image, plan, image.iccProfile(), control);
     result.cancelled = s.cancelled;
     if (s.failed)
-        result.error = QStringLiteral("The picture can't be encoded as JPEG: %1.")
-                           .arg(QString::fromLatin1(s.message.data()));
+        result.error =
+            Text::tr("The picture can't be encoded as JPEG: %1.").arg(QString::fromLatin1(s.message.data()));
     else if (!s.cancelled && std::fflush(s.file) != 0)
-        result.error = QStringLiteral("The JPEG file can't be written.");
+        result.error = Text::tr("The JPEG file can't be written.");
     return result;
 }
 

@@ -1,5 +1,6 @@
 #include "imageio/DecodeLimits.h"
 #include "imageio/FileProbe.h"
+#include "imageio/Text.h"
 
 namespace imageio {
 
@@ -53,7 +54,7 @@ void probeJpeg(ByteSource &source, FileFacts &facts) {
                 break;
             if (facts.bits != 8)
                 facts.error =
-                    QStringLiteral("JPEG files with %1 bits per channel can't be opened.").arg(facts.bits);
+                    Text::tr("JPEG files with %1 bits per channel can't be opened.").arg(facts.bits);
             return;
         }
         at += length;

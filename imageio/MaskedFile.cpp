@@ -1,13 +1,7 @@
 #include "imageio/MaskedFile.h"
 
-#include <QFile>
-
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace imageio {
 
@@ -15,9 +9,9 @@ MaskedFile::MaskedFile(const QString &path, const FileFacts &facts)
     : IOProxy(path.toStdString(), Read)
     , m_masks(facts.masks)
     , m_size(facts.fileSize)
-    , m_file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC)) {
+    , m_file(path) {
     std::ranges::sort(m_masks, {}, &FileMask::offset);
-    if (m_file < 0)
+    if (!m_file.isOpen())
         m_mode = Closed;
 }
 
@@ -26,9 +20,7 @@ MaskedFile::~MaskedFile() {
 }
 
 void MaskedFile::close() {
-    if (m_file >= 0)
-        ::close(m_file);
-    m_file = -1;
+    m_file.close();
     m_mode = Closed;
 }
 
@@ -39,16 +31,7 @@ size_t MaskedFile::read(void *to, size_t size) {
 }
 
 size_t MaskedFile::pread(void *to, size_t size, int64_t offset) {
-    size_t done = 0;
-    while (done < size) {
-        const ssize_t count =
-            ::pread(m_file, static_cast<char *>(to) + done, size - done, offset + off_t(done));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            break;
-        done += size_t(count);
-    }
+    const size_t done = m_file.read(to, size, offset);
     const int64_t end = offset + int64_t(done);
     const auto liesBefore = [&](const FileMask &mask) { return mask.offset + mask.bytes.size() <= offset; };
     for (auto it = std::ranges::partition_point(m_masks, liesBefore); it != m_masks.end() && it->offset < end;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "imageio/FileProbe.h"
+#include "imageio/platform/Files.h"
 
 #include <OpenImageIO/filesystem.h>
 
@@ -25,7 +26,7 @@ public:
 private:
     std::vector<FileMask> m_masks; ///< by offset, without overlap
     qint64 m_size = 0;
-    int m_file = -1;
+    platform::ReadFile m_file;
 };
 
 } // namespace imageio

@@ -2,6 +2,7 @@
 
 #include "imageio/CameraMetadata.h"
 #include "imageio/ColourProfile.h"
+#include "imageio/Text.h"
 
 #include <exiv2/exiv2.hpp>
 
@@ -63,7 +64,7 @@ Packets readSource(const QString &path, OutputKind kind) {
         return packets;
     try {
         const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-        image->readMetadata();
+        readSoundPart(*image, path);
         for (const Exiv2::Exifdatum &datum : image->exifData()) {
             if (!describesOldPixels(datum, kind))
                 packets.exif.add(datum);
@@ -196,7 +197,7 @@ QString carryMetadata(const QString &source, const QString &target, OutputKind k
             }
         }
     } catch (const std::exception &e) {
-        return QStringLiteral("The metadata can't be written: %1.").arg(QString::fromUtf8(e.what()));
+        return Text::tr("The metadata can't be written: %1.").arg(QString::fromUtf8(e.what()));
     }
 }
 

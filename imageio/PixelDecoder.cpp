@@ -3,6 +3,7 @@
 #include "imageio/DecodeLimits.h"
 #include "imageio/MaskedFile.h"
 #include "imageio/RowSink.h"
+#include "imageio/Text.h"
 
 #include <OpenImageIO/imageio.h>
 
@@ -53,8 +54,8 @@ QString libraryError(const OIIO::ImageInput &input, const FileFacts &facts) {
     if (says("end of file") || says("not enough data") || says("eof"))
         return limits::endsTooEarly();
     if (text.isEmpty())
-        return QStringLiteral("The %1 data is damaged.").arg(kindName(facts.kind));
-    return QStringLiteral("The %1 data can't be decoded: %2.")
+        return Text::tr("The %1 data is damaged.").arg(kindName(facts.kind));
+    return Text::tr("The %1 data can't be decoded: %2.")
         .arg(kindName(facts.kind), text.endsWith(QLatin1Char('.')) ? text.chopped(1) : text);
 }
 
@@ -105,7 +106,7 @@ Decoded decodePixels(const QString &path, const FileFacts &facts, const QByteArr
     const SourceRows source = describe(spec, facts, icc);
     RowSink sink(source);
     if (!sink.image()) {
-        result.error = QStringLiteral("There is not enough memory for this picture.");
+        result.error = Text::tr("There is not enough memory for this picture.");
         return result;
     }
     const OIIO::TypeDesc type = source.bits == 8 ? OIIO::TypeDesc::UINT8 : OIIO::TypeDesc::UINT16;

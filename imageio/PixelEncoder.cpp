@@ -4,6 +4,7 @@
 #include "imageio/DngEncoder.h"
 #include "imageio/JpegEncoder.h"
 #include "imageio/PixelConversion.h"
+#include "imageio/Text.h"
 #include "imageio/WebpEncoder.h"
 
 #include <OpenImageIO/imageio.h>
@@ -75,8 +76,8 @@ int blockRows(const EncodePlan &plan) {
 
 QString failure(const OIIO::ImageOutput &output) {
     const QString text = QString::fromStdString(output.geterror()).simplified();
-    return text.isEmpty() ? QStringLiteral("The picture can't be encoded.")
-                          : QStringLiteral("The picture can't be encoded: %1.").arg(text);
+    return text.isEmpty() ? Text::tr("The picture can't be encoded.")
+                          : Text::tr("The picture can't be encoded: %1.").arg(text);
 }
 
 } // namespace
@@ -95,7 +96,7 @@ Encoded encodePixels(const ImageData &image, const EncodePlan &plan, const QStri
 
     const auto output = OIIO::ImageOutput::create(writerName(plan.kind));
     if (!output) {
-        result.error = QStringLiteral("Files of this type can't be written on this system.");
+        result.error = Text::tr("Files of this type can't be written on this system.");
         return result;
     }
     ColourTransform toSrgb;

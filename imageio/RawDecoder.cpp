@@ -2,6 +2,7 @@
 
 #include "imageio/ColourProfile.h"
 #include "imageio/DecodeLimits.h"
+#include "imageio/Text.h"
 
 #include <libraw/libraw.h>
 
@@ -47,28 +48,28 @@ void onDamage(void *data, const char *, int offset) {
 QString sentence(int code) {
     switch (code) {
     case LIBRAW_FILE_UNSUPPORTED:
-        return QStringLiteral("The file is not a camera RAW file of a supported kind.");
+        return Text::tr("The file is not a camera RAW file of a supported kind.");
     case LIBRAW_NOT_IMPLEMENTED:
-        return QStringLiteral("RAW files of this camera or compression can't be developed.");
+        return Text::tr("RAW files of this camera or compression can't be developed.");
     case LIBRAW_UNSUFFICIENT_MEMORY:
     case LIBRAW_TOO_BIG:
-        return QStringLiteral("There is not enough memory for this picture.");
+        return Text::tr("There is not enough memory for this picture.");
     case LIBRAW_IO_ERROR:
     case LIBRAW_INPUT_CLOSED:
         return limits::endsTooEarly();
     case LIBRAW_DATA_ERROR:
-        return QStringLiteral("The RAW data is damaged.");
+        return Text::tr("The RAW data is damaged.");
     default:
         break;
     }
     const QString reason = code > 0 ? qt_error_string(code) : QString::fromLatin1(LibRaw::strerror(code));
-    return QStringLiteral("The RAW data can't be developed: %1.").arg(reason);
+    return Text::tr("The RAW data can't be developed: %1.").arg(reason);
 }
 
 QString damageSentence(const Watch &watch) {
     if (watch.damagedAt < 0)
         return limits::endsTooEarly();
-    return QStringLiteral("The RAW data is damaged near byte %1.").arg(watch.damagedAt);
+    return Text::tr("The RAW data is damaged near byte %1.").arg(watch.damagedAt);
 }
 
 void setParameters(LibRaw &raw, bool halfSize) {

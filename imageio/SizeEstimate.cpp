@@ -2,6 +2,7 @@
 
 #include "imageio/PixelEncoder.h"
 #include "imageio/SupportedFormats.h"
+#include "imageio/Text.h"
 
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -50,7 +51,7 @@ qint64 encodedSize(const ImageData &image, const EncodePlan &plan, const RunCont
 WriteResult estimateSize(const WriteRequest &request, const QString &extension, const RunControl &control) {
     WriteResult result;
     if (!request.image || request.image->isNull()) {
-        result.error = QStringLiteral("There is no picture to estimate.");
+        result.error = Text::tr("There is no picture to estimate.");
         return result;
     }
     const QString lower = extension.toLower();
@@ -61,7 +62,7 @@ WriteResult estimateSize(const WriteRequest &request, const QString &extension, 
         return result;
     const ImageRef sample = sampleOf(request.image);
     if (!sample) {
-        result.error = QStringLiteral("There is not enough memory for an estimate.");
+        result.error = Text::tr("There is not enough memory for an estimate.");
         return result;
     }
     const qint64 size = encodedSize(*sample, plan, control, result);

@@ -5,6 +5,7 @@
 #include "imageio/ImageReading.h"
 #include "imageio/PixelConversion.h"
 #include "imageio/PixelEncoder.h"
+#include "imageio/Text.h"
 
 #include <QFileInfo>
 
@@ -108,7 +109,7 @@ WriteResult writeThumbnailOf(const QString &source, const QString &target, int s
     const bool png = QFileInfo(target).suffix().compare(QLatin1String("png"), Qt::CaseInsensitive) == 0;
     const auto small = shrinkToSrgb(*opened.image, side, png ? 4 : 3);
     if (!small) {
-        result.error = QStringLiteral("There is not enough memory for this picture.");
+        result.error = Text::tr("There is not enough memory for this picture.");
         return result;
     }
     const EncodePlan plan = planEncoding(*small, png ? QStringLiteral("png") : QStringLiteral("jpg"),

@@ -2,6 +2,7 @@
 
 #include "imageio/DecodeLimits.h"
 #include "imageio/RowSink.h"
+#include "imageio/Text.h"
 
 #include <QFile>
 
@@ -141,7 +142,7 @@ std::optional<Decoded> decodeTiff(const QString &path, const FileFacts &facts, c
         return std::nullopt;
     Decoded result;
     result.bits = rows.bits;
-    const QString damaged = QStringLiteral("The TIFF data is damaged.");
+    const QString damaged = Text::tr("The TIFF data is damaged.");
     BandReader reader(tiff.get(), rows);
     if (!reader.isValid()) {
         result.error = damaged;
@@ -149,7 +150,7 @@ std::optional<Decoded> decodeTiff(const QString &path, const FileFacts &facts, c
     }
     RowSink sink(rows);
     if (!sink.image()) {
-        result.error = QStringLiteral("There is not enough memory for this picture.");
+        result.error = Text::tr("There is not enough memory for this picture.");
         return result;
     }
     const bool whiteIsZero = number(tiff.get(), TIFFTAG_PHOTOMETRIC) == PHOTOMETRIC_MINISWHITE;

@@ -2,6 +2,7 @@
 
 #include "imageio/DecodeLimits.h"
 #include "imageio/RowSink.h"
+#include "imageio/Text.h"
 
 #include <QFile>
 
@@ -17,7 +18,7 @@ namespace {
 constexpr std::size_t Portion = 64 * 1024;
 
 QString damaged() {
-    return QStringLiteral("The WebP data is damaged.");
+    return Text::tr("The WebP data is damaged.");
 }
 
 /// The bytes of the first frame; of a still picture all there is.
@@ -37,7 +38,7 @@ Decoded decodeWebp(const QString &path, const FileFacts &facts, const QByteArray
     Decoded result;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        result.error = QStringLiteral("The file can't be opened.");
+        result.error = Text::tr("The file can't be opened.");
         return result;
     }
     const QByteArray bytes = file.readAll();
@@ -56,7 +57,7 @@ Decoded decodeWebp(const QString &path, const FileFacts &facts, const QByteArray
     RowSink sink(SourceRows{config.input.width, config.input.height, alpha ? 4 : 3, 8,
                             alpha ? ColourModel::Rgba : ColourModel::Rgb, false, false, icc});
     if (!sink.image()) {
-        result.error = QStringLiteral("There is not enough memory for this picture.");
+        result.error = Text::tr("There is not enough memory for this picture.");
         return result;
     }
     ImageData &image = *sink.image();

@@ -1,6 +1,7 @@
 #include "imageio/WebpEncoder.h"
 
 #include "imageio/PixelConversion.h"
+#include "imageio/Text.h"
 
 #include <QFile>
 
@@ -63,7 +64,7 @@ Encoded encodeWebp(const ImageData &image, const EncodePlan &plan, const QString
     Encoded result;
     if (std::max(image.width(), image.height()) > WEBP_MAX_DIMENSION) {
         result.error =
-            QStringLiteral("A WebP picture may have at most %1 pixels on a side.").arg(WEBP_MAX_DIMENSION);
+            Text::tr("A WebP picture may have at most %1 pixels on a side.").arg(WEBP_MAX_DIMENSION);
         return result;
     }
     WebPConfig config;
@@ -71,7 +72,7 @@ Encoded encodeWebp(const ImageData &image, const EncodePlan &plan, const QString
     WebPPicture &picture = holder.picture;
     QFile file(path);
     if (!configure(plan, config) || !file.open(QIODevice::WriteOnly)) {
-        result.error = QStringLiteral("The WebP file can't be written.");
+        result.error = Text::tr("The WebP file can't be written.");
         return result;
     }
     picture.use_argb = config.lossless;
@@ -82,12 +83,12 @@ Encoded encodeWebp(const ImageData &image, const EncodePlan &plan, const QString
     picture.progress_hook = onProgress;
     picture.user_data = const_cast<RunControl *>(&control);
     if (!import(image, plan, picture)) {
-        result.error = QStringLiteral("There is not enough memory for this picture.");
+        result.error = Text::tr("There is not enough memory for this picture.");
         return result;
     }
     bool written = WebPEncode(&config, &picture);
     if (!written && picture.error_code == VP8_ENC_ERROR_PARTITION0_OVERFLOW) {
-        // The block headers of a very large picture don't fit; the thrifty method makes them smaller.
+        // The block headers of a very large picture don't fit; the space-saving method makes them smaller.
         config.method = SpaceSavingMethod;
         config.partition_limit = 100;
         file.resize(0);
@@ -97,7 +98,7 @@ Encoded encodeWebp(const ImageData &image, const EncodePlan &plan, const QString
     result.cancelled = control.stopped();
     if (!result.cancelled && (!written || !file.flush()))
         result.error =
-            QStringLiteral("The picture can't be encoded as WebP (code %1).").arg(int(picture.error_code));
+            Text::tr("The picture can't be encoded as WebP (code %1).").arg(int(picture.error_code));
     return result;
 }
 

@@ -4,6 +4,7 @@
 #include "imageio/FileProbe.h"
 #include "imageio/PixelConversion.h"
 #include "imageio/RawDecoder.h"
+#include "imageio/Text.h"
 
 #include <OpenImageIO/imageio.h>
 
@@ -20,8 +21,7 @@ constexpr int LeastRawSide = 22;
 constexpr int SequentialRows = 256;
 
 QString differs(const char *what) {
-    return QStringLiteral("The written file was read back and its %1 is not what was saved.")
-        .arg(QString::fromLatin1(what));
+    return Text::tr("The written file was read back and its %1 is not what was saved.").arg(Text::tr(what));
 }
 
 std::vector<int> rowsToCompare(int height, OutputKind kind) {
@@ -57,26 +57,27 @@ bool endsWithMarker(const QString &path) {
 QString checkWrittenFile(const QString &path, const ImageData &image, const EncodePlan &plan) {
     const FileFacts facts = probeFile(path);
     if (!facts.error.isEmpty())
-        return QStringLiteral("The written file was read back and is not whole: %1").arg(facts.error);
+        return Text::tr("The written file was read back and is not whole: %1").arg(facts.error);
     if (plan.kind == OutputKind::Dng) {
         // The RAW library takes smaller ones for no picture.
         const bool readable = std::min(image.width(), image.height()) >= LeastRawSide;
-        return !readable || rawSize(path) == QSize(image.width(), image.height()) ? QString()
-                                                                                  : differs("size");
+        return !readable || rawSize(path) == QSize(image.width(), image.height())
+                   ? QString()
+                   : differs(QT_TRANSLATE_NOOP("ImageFiles", "size"));
     }
     if (facts.width != image.width() || facts.height != image.height())
-        return differs("size");
+        return differs(QT_TRANSLATE_NOOP("ImageFiles", "size"));
     if (facts.bits != plan.bits)
-        return differs("bit depth");
+        return differs(QT_TRANSLATE_NOOP("ImageFiles", "bit depth"));
     if (plan.kind == OutputKind::Jpeg && !endsWithMarker(path))
-        return differs("end");
+        return differs(QT_TRANSLATE_NOOP("ImageFiles", "end"));
 
     const CameraMetadata metadata = readCameraMetadata(path);
     if (metadata.orientation != 1)
-        return differs("orientation");
+        return differs(QT_TRANSLATE_NOOP("ImageFiles", "orientation"));
     const bool carriesProfile = plan.kind != OutputKind::Bmp && !image.iccProfile().isEmpty();
     if (carriesProfile && metadata.icc.isEmpty())
-        return differs("colour profile");
+        return differs(QT_TRANSLATE_NOOP("ImageFiles", "colour profile"));
 
     const bool lossless = plan.kind == OutputKind::Png || plan.kind == OutputKind::Tiff;
     if (!lossless)
@@ -87,7 +88,7 @@ QString checkWrittenFile(const QString &path, const ImageData &image, const Enco
     const auto input = OIIO::ImageInput::create(pluginName(facts.kind));
     if (!input || !input->open(path.toStdString(), spec, wish) || spec.nchannels != plan.channels ||
         !pixelsMatch(*input, image, plan))
-        return differs("picture");
+        return differs(QT_TRANSLATE_NOOP("ImageFiles", "picture"));
     return {};
 }
 

@@ -123,10 +123,24 @@ TEST_F(Driver, ProcessesEveryFile) {
         EXPECT_TRUE(Capture::logged(line)) << line;
 }
 
+TEST_F(Driver, TheLogNamesWhereAFileReallyWent) {
+    struct Elsewhere : FakeFiles {
+        WriteResult write(const WriteRequest &request, const RunControl &control) override {
+            WriteResult result = FakeFiles::write(request, control);
+            result.outputPath = request.outputPath + u".tif"_s;
+            return result;
+        }
+    };
+    m_files = std::make_shared<Elsewhere>();
+    setImageFileBackend(m_files);
+    EXPECT_EQ(run(pictures(1)), 0);
+    EXPECT_EQ(Capture::log().filter(u"[CLI] Saved file:"_s),
+              QStringList{u"info [CLI] Saved file: \"%1\""_s.arg(at(u"p00-1.jpg.tif"_s))});
+}
+
 TEST_F(Driver, AMissingPathLeavesNothingToDo) {
     EXPECT_EQ(run({picture(u"a.jpg"_s), at(u"gone"_s)}), -1);
-    EXPECT_TRUE(Capture::logged(
-        "error Attempted to set index out of range: 0 images loaded, but setting index to 0"));
+    EXPECT_EQ(Capture::log().filter(u"out of range"_s), QStringList()) << "tells a person nothing";
     EXPECT_EQ(m_capture.err(), "[CLI] Invalid file or directory path:" + at(u"gone"_s).toStdString() +
                                    "\nNo valid image files passed\n");
     EXPECT_TRUE(m_files->reads().empty());

@@ -94,14 +94,28 @@ TEST_F(Naming, BesideTheSource) {
     EXPECT_EQ(name(u"x-3.jpg"_s, u"jpg"_s), u"x-3-2.jpg"_s);
     EXPECT_EQ(name(u"b.c.png"_s, u"jpeg"_s), u"b.c.jpeg"_s);
     EXPECT_EQ(name(u"dotted.d/plain"_s, u"png"_s), u"dotted.d/plain.png"_s);
-    m_options.overwrite = true;
-    EXPECT_EQ(name(u"a.jpg"_s, u"jpg"_s), u"a.jpg"_s);
 }
 
 TEST_F(Naming, TwoInputsNeverShareAName) {
     EXPECT_EQ(name(u"a.png"_s, u"png"_s), u"a.png"_s);
     EXPECT_EQ(name(u"a.jpg"_s, u"png"_s), u"a-1.png"_s);
     EXPECT_EQ(name(u"b/../a.tif"_s, u"png"_s), u"a-2.png"_s) << "the same folder in other words";
+}
+
+TEST_F(Naming, OverwritingSparesWhatTheRunUses) {
+    for (const char *there : {"a.png", "h.heic", "h.tif", "i.tif", "j.png", "j-1.png"})
+        make(QString::fromLatin1(there));
+    m_options.overwrite = true;
+    m_naming.setInputs({at(u"a.jpg"_s), at(u"a.png"_s), at(u"h.heic"_s), at(u"h.tif"_s), at(u"g.heic"_s)});
+    EXPECT_EQ(name(u"a.jpg"_s, u"png"_s), u"a-1.png"_s) << "its place is that of another input";
+    EXPECT_EQ(name(u"a.png"_s, u"png"_s), u"a.png"_s);
+    EXPECT_EQ(name(u"h.heic"_s, u"heic"_s), u"h-1.tif"_s) << "can only be read";
+    EXPECT_EQ(name(u"h.tif"_s, u"tif"_s), u"h.tif"_s);
+    EXPECT_EQ(name(u"g.heic"_s, u"heic"_s), u"g.tif"_s);
+    EXPECT_EQ(name(u"g.tif"_s, u"tif"_s), u"g-1.tif"_s) << "given to another one";
+    EXPECT_EQ(name(u"i.AVIF"_s, u"AVIF"_s), u"i-1.tif"_s) << "nobody asked to replace a TIFF";
+    EXPECT_EQ(name(u"j.jpg"_s, u"png"_s), u"j.png"_s);
+    EXPECT_EQ(name(u"j.tif"_s, u"png"_s), u"j-2.png"_s) << "a numbered name replaces nothing";
 }
 
 TEST_F(Naming, InAFolder) {

@@ -36,6 +36,7 @@ QByteArray hugePng(quint32 width, quint32 height) {
 
 TEST_F(Console, EndsBeforeAnyWork) {
     const QString good = picture(u"good.png"_s);
+    const QString gone = u"[CLI] Invalid file or directory path:gone.jpg\nNo valid image files passed\n"_s;
     QDir().mkpath(at(u"none"_s));
     struct {
         const char *what;
@@ -48,6 +49,8 @@ TEST_F(Console, EndsBeforeAnyWork) {
          {at(u"none"_s), u"--keep-going"_s},
          255,
          u"No valid image files passed\n"_s},
+        {"missing file", {u"gone.jpg"_s}, 255, gone},
+        {"missing file among none", {u"gone.jpg"_s, u"--keep-going"_s}, 255, gone},
         {"unknown option", {good, u"--nothing"_s}, 253, u"Unknown argument: --nothing\n"_s},
         {"no value", {good, u"--output"_s}, 253, u"Missing value after argument: --output\n"_s},
     };
@@ -55,6 +58,7 @@ TEST_F(Console, EndsBeforeAnyWork) {
         const Answer answer = run(row.arguments);
         EXPECT_EQ(answer.code, row.code) << row.what;
         EXPECT_TRUE(holds(answer.err, row.error)) << row.what << ": " << answer.err;
+        EXPECT_FALSE(holds(answer.err, u"Error |"_s)) << "a log line is no help: " << answer.err;
         EXPECT_EQ(answer.out, "") << row.what;
     }
     EXPECT_EQ(filesIn(u"."_s), QStringList{u"good.png"_s});
@@ -121,6 +125,21 @@ TEST_F(Console, FoldersAreRecreatedAndOriginalsKept) {
     EXPECT_EQ(filesIn(u"in"_s), (QStringList{u"a.jpeg"_s, u"a.png"_s, u"deep/a.jpeg"_s, u"deep/a.png"_s,
                                              u"deep/er/b-1.jpg"_s, u"deep/er/b.jpg"_s}));
     EXPECT_EQ(contentOf(u"in/deep/er/b.jpg"_s), before);
+}
+
+TEST_F(Console, AResultIsNamedAsItIsWritten) {
+    picture(u"in/h.png"_s);
+    EXPECT_EQ(run({at(u"in/h.png"_s), u"-f"_s, u"tif"_s, u"--keep-going"_s}).code, 0);
+    QFile::remove(at(u"in/h.png"_s));
+    QFile::rename(at(u"in/h.tiff"_s), at(u"in/h.tif"_s));
+    QFile::copy(QStringLiteral(SAMPLES "/three-colours.heic"), at(u"in/h.heic"_s));
+    const Answer answer =
+        run({at(u"in"_s), u"-o"_s, at(u"out"_s), u"--overwrite"_s, u"--keep-going"_s, u"--verbose"_s});
+    EXPECT_EQ(answer.code, 0) << answer.err;
+    EXPECT_EQ(filesIn(u"out"_s), (QStringList{u"h-1.tif"_s, u"h.tif"_s})) << "two sources, two results";
+    const std::string all = answer.out + answer.err;
+    EXPECT_TRUE(holds(all, u"out/h-1.tif"_s)) << all;
+    EXPECT_FALSE(holds(all, u"out/h.heic"_s)) << all;
 }
 
 TEST_F(Console, AResultThatCannotBeWritten) {

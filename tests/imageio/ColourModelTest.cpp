@@ -33,8 +33,11 @@ struct TiffKind {
     std::uint16_t bits;
     std::vector<std::uint16_t> samples; ///< of one pixel, of `bits` each
     int extra = -1;                     ///< meaning of the last sample, TIFF tag 338
+    bool tiled = false;
+    bool planar = false;
 };
 
+/// A TIFF of one colour.
 void writeTiff(const QString &path, const TiffKind &kind) {
     TIFF *tiff = TIFFOpen(QFile::encodeName(path).constData(), "w");
     TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, 24);
@@ -42,27 +45,42 @@ void writeTiff(const QString &path, const TiffKind &kind) {
     TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, kind.bits);
     TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, int(kind.samples.size()));
     TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, kind.photometric);
-    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, kind.planar ? PLANARCONFIG_SEPARATE : PLANARCONFIG_CONTIG);
     if (kind.photometric == PHOTOMETRIC_PALETTE) {
-        std::vector<std::uint16_t> table(256, 0);
+        std::vector<std::uint16_t> table(std::size_t(1) << kind.bits, 0);
         table[5] = 0xffff;
-        std::vector<std::uint16_t> none(256, 0);
+        std::vector<std::uint16_t> none(table.size(), 0);
         TIFFSetField(tiff, TIFFTAG_COLORMAP, table.data(), none.data(), none.data());
     }
     if (kind.extra >= 0) {
         const auto meaning = std::uint16_t(kind.extra);
         TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, 1, &meaning);
     }
-    std::vector<std::uint8_t> row;
-    for (int x = 0; x < 24; ++x) {
-        for (const std::uint16_t sample : kind.samples) {
-            row.push_back(std::uint8_t(sample));
-            if (kind.bits == 16)
-                row.push_back(std::uint8_t(sample >> 8));
-        }
+    const std::uint32_t side = 16;
+    if (kind.tiled) {
+        TIFFSetField(tiff, TIFFTAG_TILEWIDTH, side);
+        TIFFSetField(tiff, TIFFTAG_TILELENGTH, side);
+    } else {
+        TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, 20);
     }
-    for (std::uint32_t y = 0; y < 20; ++y)
-        TIFFWriteScanline(tiff, row.data(), y);
+    const std::uint32_t planes = kind.planar ? std::uint32_t(kind.samples.size()) : 1;
+    for (std::uint32_t plane = 0; plane < planes; ++plane) {
+        std::vector<std::uint8_t> block;
+        for (std::uint32_t i = 0; i < (kind.tiled ? side * side : 24 * 20); ++i) {
+            for (std::uint32_t c = plane; c < (kind.planar ? plane + 1 : kind.samples.size()); ++c) {
+                const std::uint16_t sample = kind.samples[c];
+                if (kind.bits >= 8 || i * kind.bits % 8 == 0)
+                    block.push_back(std::uint8_t(kind.bits == 1 ? sample * 255 : sample));
+                if (kind.bits == 16)
+                    block.push_back(std::uint8_t(sample >> 8));
+            }
+        }
+        const auto size = tmsize_t(block.size());
+        for (std::uint32_t tile = 0; kind.tiled && tile < 4; ++tile)
+            TIFFWriteEncodedTile(tiff, plane * 4 + tile, block.data(), size);
+        if (!kind.tiled)
+            TIFFWriteEncodedStrip(tiff, plane, block.data(), size);
+    }
     TIFFClose(tiff);
 }
 
@@ -104,6 +122,10 @@ void expectPicture(const QString &path, const Expected &expected) {
     ASSERT_EQ(back.image->channels(), int(expected.value.size()));
     for (int c = 0; c < back.image->channels(); ++c)
         EXPECT_NEAR(valueAt(*back.image, 11, 19, c), expected.value[std::size_t(c)], expected.tolerance) << c;
+    // What the file says of its own storage must not be carried over to the result.
+    const QString saved = path + QStringLiteral(".saved.tif");
+    ASSERT_EQ(write(back.image, saved, {}, {}, path).error.toStdString(), "");
+    EXPECT_EQ(psnr(*read(saved).image, *back.image), 200);
 }
 
 } // namespace
@@ -137,34 +159,33 @@ TEST(ColourModel, EverythingBecomesRgbOrRgba) {
     writePlain(path, {0.25f, 0.5f, 0.75f}, OIIO::TypeDesc::UINT32);
     expectPicture(path, {"32-bit TIFF", {63.75, 127.5, 191.25}, 16});
 
-    path = file(".tif");
-    writePlain(path, {0.2f, 0.4f, 0.6f}, OIIO::TypeDesc::UINT8,
-               [](OIIO::ImageSpec &s) { s.tile_width = s.tile_height = 16; });
-    expectPicture(path, {"tiled TIFF", {51, 102, 153}, 8});
-
-    path = file(".tif");
-    writeTiff(path, {PHOTOMETRIC_MINISWHITE, 8, {55}});
-    expectPicture(path, {"TIFF with white at 0", {200, 200, 200}, 8});
-
-    path = file(".tif");
-    writeTiff(path, {PHOTOMETRIC_PALETTE, 8, {5}});
-    expectPicture(path, {"palette TIFF", {255, 0, 0}, 8});
-
-    path = file(".tif");
-    writeTiff(path, {PHOTOMETRIC_RGB, 8, {100, 50, 25, 128}, EXTRASAMPLE_ASSOCALPHA});
-    expectPicture(path, {"TIFF with colour multiplied by alpha", {199, 100, 50, 128}, 8});
-
-    path = file(".tif");
-    writeTiff(path, {PHOTOMETRIC_RGB, 16, {0x2000, 0x4000, 0x8000, 0x1234}, EXTRASAMPLE_UNSPECIFIED});
-    expectPicture(path, {"TIFF with a fourth channel that is no alpha", {31.9, 63.8, 127.5}, 16});
-
-    path = file(".tif");
-    writeTiff(path, {PHOTOMETRIC_SEPARATED, 8, {0, 255, 255, 51}});
-    expectPicture(path, {"CMYK TIFF", {204, 0, 0}, 8});
-
-    path = file(".tif");
-    writeTiff(path, {PHOTOMETRIC_SEPARATED, 16, {0xffff, 0, 0, 0}});
-    expectPicture(path, {"CMYK TIFF, 16 bits", {0, 255, 255}, 16});
+    const std::vector<std::pair<TiffKind, Expected>> tiffs = {
+        {{PHOTOMETRIC_MINISBLACK, 1, {1}}, {"black and white TIFF", {255, 255, 255}, 8}},
+        {{PHOTOMETRIC_MINISWHITE, 1, {1}}, {"white at 0, 1 bit", {0, 0, 0}, 8}},
+        {{PHOTOMETRIC_MINISWHITE, 1, {0}, -1, true}, {"white at 0, 1 bit, tiled", {255, 255, 255}, 8}},
+        {{PHOTOMETRIC_MINISWHITE, 8, {55}}, {"white at 0", {200, 200, 200}, 8}},
+        {{PHOTOMETRIC_MINISWHITE, 8, {55}, -1, true}, {"white at 0, tiled", {200, 200, 200}, 8}},
+        {{PHOTOMETRIC_MINISWHITE, 16, {0x37c8}}, {"white at 0, 16 bits", {199.2, 199.2, 199.2}, 16}},
+        {{PHOTOMETRIC_MINISWHITE, 16, {0x37c8}, -1, true},
+         {"white at 0, 16 bits, tiled", {199.2, 199.2, 199.2}, 16}},
+        {{PHOTOMETRIC_PALETTE, 8, {5}}, {"palette TIFF", {255, 0, 0}, 8}},
+        {{PHOTOMETRIC_PALETTE, 8, {5}, -1, true}, {"palette TIFF, tiled", {255, 0, 0}, 8}},
+        {{PHOTOMETRIC_RGB, 8, {51, 102, 153}, -1, true}, {"tiled TIFF", {51, 102, 153}, 8}},
+        {{PHOTOMETRIC_RGB, 8, {51, 102, 153}, -1, false, true}, {"planar TIFF", {51, 102, 153}, 8}},
+        {{PHOTOMETRIC_RGB, 16, {0x2000, 0x4000, 0x8000}, -1, true, true},
+         {"planar TIFF, tiled", {31.9, 63.8, 127.5}, 16}},
+        {{PHOTOMETRIC_RGB, 8, {100, 50, 25, 128}, EXTRASAMPLE_ASSOCALPHA},
+         {"TIFF with colour multiplied by alpha", {199, 100, 50, 128}, 8}},
+        {{PHOTOMETRIC_RGB, 16, {0x2000, 0x4000, 0x8000, 0x1234}, EXTRASAMPLE_UNSPECIFIED},
+         {"TIFF with a fourth channel that is no alpha", {31.9, 63.8, 127.5}, 16}},
+        {{PHOTOMETRIC_SEPARATED, 8, {0, 255, 255, 51}}, {"CMYK TIFF", {204, 0, 0}, 8}},
+        {{PHOTOMETRIC_SEPARATED, 16, {0xffff, 0, 0, 0}}, {"CMYK TIFF, 16 bits", {0, 255, 255}, 16}},
+    };
+    for (const auto &[kind, expected] : tiffs) {
+        path = file(".tif");
+        writeTiff(path, kind);
+        expectPicture(path, expected);
+    }
 
     path = file(".jpg");
     writeCmykJpeg(path, {255, 0, 255, 204});

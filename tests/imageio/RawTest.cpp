@@ -99,6 +99,7 @@ TEST(Raw, ADamagedFileIsAnErrorAndNeverItsPreview) {
         holed.replace(bytes.size() / 2, bytes.size() / 4, QByteArray(bytes.size() / 4, '\xff'));
         const std::vector<Row> rows = {{"half", bytes.first(bytes.size() / 2)},
                                        {"header", bytes.first(200)},
+                                       {"not even the preview", bytes.first(64 * 1024)},
                                        {"few bytes", bytes.first(8)},
                                        {"hole", compressed ? holed : bytes.first(bytes.size() / 2)}};
         for (const Row &row : rows) {

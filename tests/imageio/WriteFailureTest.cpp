@@ -1,5 +1,7 @@
 #include "TestFiles.h"
 
+#include "imageio/LeftoverFiles.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
@@ -11,6 +13,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace testio;
@@ -140,6 +143,33 @@ TEST(WriteFailure, LinksPermissionsAndMissingFolders) {
     EXPECT_EQ(s.st_mode & 0777, 0640u);
 }
 
+TEST(WriteFailure, TemporaryFilesOfDeadProcessesGoAndNothingElse) {
+    const pid_t dead = ::fork();
+    if (dead == 0)
+        ::_exit(0);
+    ASSERT_EQ(::waitpid(dead, nullptr, 0), dead);
+    const Folder folder;
+    const QString ours = imageio::temporaryPrefix().section(u'-', 0, 1) + u'-';
+    const QString left = folder.path() + u'/' + ours + QString::number(dead);
+    const QStringList kept = {
+        folder.path() + u'/' + ours + QString::number(::getppid()) + QStringLiteral("-abcdef"),
+        folder("") + QStringLiteral(".orvane-00000000-%1-abcdef").arg(dead),
+        left + QStringLiteral("-abcdef.jpg"),
+        left + QStringLiteral("-"),
+        folder(".orvane-abcdef"),
+        folder("real"),
+    };
+    for (const QString &path : kept)
+        setContents(path, "x");
+    ASSERT_TRUE(QFile::link(folder("real"), left + QStringLiteral("-linked")));
+    ASSERT_TRUE(QDir().mkdir(left + QStringLiteral("-folder")));
+    const QStringList before = folder.entries();
+    setContents(left + QStringLiteral("-abcdef"), "part of a picture");
+    ASSERT_EQ(write(quarters(20, 20), folder("a.png")).error.toStdString(), "");
+    EXPECT_TRUE(QFile::remove(folder("a.png")));
+    EXPECT_EQ(folder.entries(), before);
+}
+
 TEST(WriteFailure, AKilledProgramLeavesAWholeFile) {
     const Folder folder;
     const QString path = folder("a.png");
@@ -151,6 +181,7 @@ TEST(WriteFailure, AKilledProgramLeavesAWholeFile) {
                       {QStringLiteral("--overwrite-until-killed"), path});
         ASSERT_TRUE(process.waitForStarted());
         ASSERT_TRUE(process.waitForReadyRead(60000));
+        EXPECT_LE(folder.entries().size(), 2) << "what the last one left is gone";
         QTest::qSleep(delay);
         process.kill();
         process.waitForFinished();
