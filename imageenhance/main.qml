@@ -69,12 +69,12 @@ ApplicationWindow {
 
     // State, and the flows without a screen
     WindowState { id: windowState; helpers: helpers; controls: controlState; reader: imageReader; integrations: appWindow.host; editMode: content.panel.editMode }
-    ImageRoad {
+    ImagePipeline {
         engine: imageProcessor
         writer: imageWriter
         preview: content.preview
         panel: content.panel
-        state: windowState
+        windowState: windowState
         settings: mainSettings
         onLoadingFailed: (path, error) => {
             openedImages.recentFiles.forget(path);

@@ -146,6 +146,14 @@ public:
     QVariantMap defaultParams() const { return m_defaultParams; }
 
     // Autopilot
+    /// All that follows an analysis of the current image: the status goes to On, the answer is stored, and
+    /// with `addFilters` the image gets its first filters: all that is recommended, or with
+    /// `recommendFilters` false RAW alone, and only for a RAW file. An image that has them keeps what it has,
+    /// unless Autopilot was applied before there was an answer. Ends with one filterOrderChanged where
+    /// filters are added.
+    Q_INVOKABLE void landAutopilot(const QVariantMap &answer, bool recommendFilters, bool addFilters);
+    /// Replaces all filters of the current image by the recommended ones, in the order in which they are run.
+    Q_INVOKABLE void applyRecommendedFilters();
     Q_INVOKABLE void setAutopilotSettings(const QVariantMap &settings);
     Q_INVOKABLE void setAutoPilotStatus(TImageSettings::AutoPilotStatus status);
     Q_INVOKABLE void applyAutopilotToImage();
@@ -212,6 +220,10 @@ private:
     TImageSettings &currentSettings() { return settingsOf(currentImage()); }
     TImageSettings currentSettings() const { return settingsOf(currentImage()); }
 
+    void addFirstFilters(bool recommendFilters);
+    /// These two give the order that goes with what they put on, which stays to be set.
+    QStringList adoptRecommendedFilters();
+    QStringList addRawFilter();
     /// Everything that hangs on the current image.
     void emitCurrentImageSignals();
     void emitParamSignals(bool enabledToo);

@@ -1,4 +1,60 @@
+#include "model/SettingsKeys.h"
 #include "model/TControls.h"
+
+namespace {
+
+/// The order in which Autopilot's filters are run.
+const QStringList &processingOrder() {
+    static const QStringList order = {Categories::Raw,     Categories::Exposure,    Categories::WhiteBalance,
+                                      Categories::Denoise, Categories::Sharpen,     Categories::FaceRecovery,
+                                      Categories::Enhance, Categories::TextRecovery};
+    return order;
+}
+
+} // namespace
+
+void TControls::landAutopilot(const QVariantMap &answer, bool recommendFilters, bool addFilters) {
+    setAutoPilotStatus(TImageSettings::On);
+    setAutopilotSettings(answer);
+    if (addFilters)
+        addFirstFilters(recommendFilters);
+}
+
+// The flags stand before the order is announced: who hears of it finds the record as it stays.
+void TControls::addFirstFilters(bool recommendFilters) {
+    const TImageSettings before = currentSettings();
+    const bool visitedBefore = before.initialFiltersApplied && !before.applyAutopilotOnceCalculated;
+    QStringList order = before.filterOrder;
+    if (!visitedBefore) {
+        if (recommendFilters || before.applyAutopilotOnceCalculated)
+            order = adoptRecommendedFilters();
+        else if (isRaw())
+            order = addRawFilter();
+    }
+    markInitialFiltersApplied();
+    resetManualAPCheck();
+    setFilterOrder(order);
+}
+
+QStringList TControls::adoptRecommendedFilters() {
+    applyAutopilotToImage();
+    const QStringList adopted = filterOrder();
+    QStringList order = processingOrder();
+    order.removeIf([&adopted](const QString &name) { return !adopted.contains(name); });
+    return order;
+}
+
+// A RAW file is developed whatever the preferences say.
+QStringList TControls::addRawFilter() {
+    initializeFilter(Categories::Raw, Categories::Raw);
+    resetToAuto(Categories::Raw, Categories::Raw);
+    setParam(Categories::Raw, Keys::Enabled, true);
+    return {Categories::Raw};
+}
+
+void TControls::applyRecommendedFilters() {
+    setFilterOrder(adoptRecommendedFilters());
+}
 
 void TControls::setAutopilotSettings(const QVariantMap &settings) {
     currentSettings().setAutopilotSettings(settings);

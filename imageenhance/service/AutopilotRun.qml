@@ -1,36 +1,35 @@
 import QtQuick
 import TImageSettings
+import imageenhance
 
 // How an Autopilot run starts and lands. A run that starts sets the image's status to Processing, which holds back
 // every run of the preview until the answer is here.
 QtObject {
     id: _top
 
-    required property var engine // TEngineController
-    required property var controls // TControls
-    required property var scheduler // ProcScheduler
-    required property bool exporting
-    required property string faceDetection // setting autopilotFaceDetect
-    required property string subjectType // setting autopilotSubjectType
+    required property ImageProcessor engine
+    required property RightPanel panel
+    required property WindowState windowState
+    required property MainSettings settings
+    required property ProcScheduler scheduler
 
-    // The steps that the status display is to show: "loading", "params", "faces", "subject", "final".
-    signal stepsChosen(var steps)
-    // An answer stands in the model.
-    signal landed
-    signal closeRefineMode
+    // Settings change in a burst: only the filter order at its end counts.
+    readonly property alias addingFilters: _private.addingFilters
 
-    function stepsOfNewImage(): var {
-        return ["loading"].concat(_private.steps());
+    // The steps that the status display is to show.
+    function stepsOfNewImage(): list<string> {
+        return ["loading", ..._private.steps()];
     }
 
     // The engine has another input image, or the export dialog closed.
     function setupImage(): void {
-        if (_top.engine.inputImage.uid && _top.controls.currentControls.autoPilot !== TImageSettings.Off) {
+        _top.engine.resetAll();
+        if (_top.engine.inputImage.uid && _top.windowState.controls.currentControls.autoPilot !== TImageSettings.Off) {
             console.info("Canceling due to input image changing and needing Autopilot to run");
             _private.start({
                 "regenerateMask": true
             });
-        } else if (_top.exporting) {
+        } else if (_top.windowState.isExporting) {
             console.info("Exporting proc full");
             _top.scheduler.procFull();
         }
@@ -38,52 +37,65 @@ QtObject {
 
     // A preference of Autopilot changed.
     function rerun(): void {
-        _top.stepsChosen(_private.steps());
-        _top.closeRefineMode();
+        _top.panel.showSteps(_private.steps());
+        _top.panel.closeRefineMode();
         _private.start({});
     }
 
     function runFaceDetection(): void {
-        _top.stepsChosen(["faces"]);
+        _top.panel.showSteps(["faces"]);
         _private.start({
             "forceFaceDetect": true
         });
     }
 
-    // Models that a run needed were missing and are here now.
-    function modelsDownloaded(): void {
-        if (_top.controls.currentControls.autoPilot === TImageSettings.Processing)
-            _top.engine.autoPilot(_top.engine.inputImage, {
-                "regenerateMask": true
-            });
-        else
-            _top.scheduler.procCurrentRoi();
-    }
+    readonly property Connections _ofEngine: Connections {
+        target: _top.engine
 
-    // An answer for another image is dropped: that of the image now shown will land.
-    function finished(uid: string, settings: var): void {
-        if (_top.engine.inputImage.uid !== uid || !uid.includes(_top.controls.currentImage))
-            return;
-        _top.controls.setAutoPilotStatus(TImageSettings.On);
-        _top.controls.setAutopilotSettings(settings);
-        _top.landed();
+        function onInputImageChanged(): void {
+            _top.setupImage();
+        }
+
+        // An answer for another image is dropped: that of the image now shown will land. While an edit mode is open,
+        // the answer is kept and the filters stay as they are.
+        function onAutoPilotFinished(uid: string, answer: var): void {
+            if (_top.engine.inputImage.uid !== uid || !uid.includes(_top.windowState.controls.currentImage))
+                return;
+            _private.addingFilters = !_top.windowState.isRefining;
+            _top.windowState.controls.landAutopilot(answer, _top.settings.autopilotRecommendFilters, _private.addingFilters);
+            _private.addingFilters = false;
+        }
+
+        // Models that a run needed were missing and are here now.
+        function onDownloadingModelsChanged(): void {
+            if (_top.engine.downloadingModels)
+                return;
+            if (_top.windowState.controls.currentControls.autoPilot === TImageSettings.Processing)
+                _top.engine.autoPilot(_top.engine.inputImage, {
+                    "regenerateMask": true
+                });
+            else
+                _top.scheduler.procCurrentRoi();
+        }
     }
 
     readonly property QtObject _private: QtObject {
         id: _private
 
-        function steps(): var {
+        property bool addingFilters: false
+
+        function steps(): list<string> {
             const steps = ["params", "final"];
-            if (_top.faceDetection !== "none")
+            if (_top.settings.autopilotFaceDetect !== "none")
                 steps.push("faces");
-            if (_top.subjectType !== "none")
+            if (_top.settings.autopilotSubjectType !== "none")
                 steps.push("subject");
             return steps;
         }
 
         function start(options: var): void {
             _top.engine.cancelProc();
-            _top.controls.setAutoPilotStatus(TImageSettings.Processing);
+            _top.windowState.controls.setAutoPilotStatus(TImageSettings.Processing);
             _top.engine.autoPilot(_top.engine.inputImage, options);
         }
     }

@@ -1,12 +1,14 @@
 import QtQuick
+import TControls
+import TImageProcessor
 
 // Closing one image. An image with changes that nothing has saved is asked about first; the question shows the flow's
 // signal, the answer comes by confirm() or cancel().
 QtObject {
     id: _top
 
-    required property var controls // TControls
-    required property var engine // TEngineController
+    required property TControls controls
+    required property TEngineController engine
 
     readonly property int imageToClose: _private.imageToClose
 

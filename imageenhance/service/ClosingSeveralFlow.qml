@@ -1,10 +1,11 @@
 import QtQuick
+import TControls
 
 // Closing the selected images, or all. Always asked about.
 QtObject {
     id: _top
 
-    required property var controls // TControls
+    required property TControls controls
 
     signal askToCloseSelected
     signal askToCloseAll

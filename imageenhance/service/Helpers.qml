@@ -1,4 +1,6 @@
 import QtQuick
+import QtQuick.Controls
+import AppContext
 import ImageDataUtils
 import MouseListener
 import TImageUtils
@@ -11,8 +13,8 @@ import imageenhance
 QtObject {
     id: _top
 
-    required property var appContext // AppContext
-    required property var appWindow // ApplicationWindow
+    required property AppContext appContext
+    required property ApplicationWindow appWindow
     required property MainSettings settings
 
     readonly property OSUtils osUtils: OSUtils {}

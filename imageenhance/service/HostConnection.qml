@@ -1,13 +1,15 @@
 import QtQuick
+import TControls
+import TIntegrations
 
 // What other programs and further instances bring: images of start arguments, drops and merged instances, and a host's
-// words.
+// messages.
 QtObject {
     id: _top
 
-    required property var integrations // TIntegrations
+    required property TIntegrations integrations
     required property var intercom // TIntercom
-    required property var controls // TControls
+    required property TControls controls
     readonly property bool merging: _mergingTimer.running
 
     signal closeRefineMode

@@ -1,5 +1,7 @@
 import QtQuick
+import ImageDataUtils
 import TImageProcessor
+import TIntegrations
 import imageenhance
 
 // The engine, bound to the settings that it follows, and the holder of its latest results for the current image.
@@ -7,8 +9,8 @@ TEngineController {
     id: _top
 
     required property MainSettings settings
-    required property var integrations // TIntegrations
-    required property var imageDataUtils // ImageDataUtils
+    required property TIntegrations integrations
+    required property ImageDataUtils imageDataUtils
     required property var strokes // Inpaint strokes not applied yet
 
     property var maskTextures: ({}) // uid, maskHashes, brushTextures

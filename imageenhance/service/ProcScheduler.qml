@@ -1,38 +1,28 @@
 import QtQuick
 import "../utils/viewport.mjs" as Viewport
+import imageenhance
 
-// Decides when the engine runs on what is seen. Many causes ask; Qt.callLater folds them into one request, and the
-// gates of procCurrentRoi drop what would show nothing new or disturb something else.
+// Decides when the engine runs on what is seen. Listens to all that may call for a run; Qt.callLater folds them into
+// one request, and the gates of procCurrentRoi drop what would show nothing new or disturb something else.
 QtObject {
     id: _top
 
-    required property var engine // TEngineController
-    required property var controls // TControls
-    required property var imageUtils // TImageUtils
-    required property var imageDataUtils // ImageDataUtils
-    // What the preview tells: procRoi, moving, beforeImage, showBefore.
-    required property var preview
-
-    required property bool loading
-    required property bool autopilotRunning
-    required property bool exporting
-    required property bool imageOpen
-    required property bool panelAnimating
+    required property ImageProcessor engine
+    required property ImagePreview preview
+    required property RightPanel panel
+    required property WindowState windowState
     required property bool addingFilter
-    required property bool editingMask
-    required property bool mousePressed
-    required property rect cropRect // fractions of the image
-    required property real cropRotation // radians
 
-    readonly property bool queuedProc: _private.queuedProc
+    readonly property bool mousePressed: windowState.helpers.mouseListener.isMousePressed
+    readonly property alias queuedProc: _private.queuedProc
     // When set, the next change of the preview's region asks for a run.
     property bool procAfterRoiUpdated: false
 
     onMousePressedChanged: {
-        if (_top.mousePressed || !_private.queuedProc)
+        if (mousePressed || !_private.queuedProc)
             return;
         _private.queuedProc = false;
-        _top.engine.paramsChanged();
+        engine.paramsChanged();
     }
 
     // The one entry for runs on what is seen.
@@ -46,65 +36,93 @@ QtObject {
         console.info("[PROC] Cancelling old proc due to new request");
         _top.engine.cancelProc();
         console.info("[PROC] Starting proc");
-        _top.engine.procRequest(roi, _top.controls.filterOrder);
+        _top.engine.procRequest(roi, _top.windowState.controls.filterOrder);
     }
 
     // The whole cropped image, for an export. Cancels nothing.
     function procFull(): void {
-        const size = _top.imageDataUtils.imageSize(_top.engine.inputImage.image);
-        const crop = Qt.rect(_top.cropRect.x * size.width, _top.cropRect.y * size.height, _top.cropRect.width * size.width, _top.cropRect.height * size.height);
-        const region = Viewport.movedInside(_top.imageUtils.getBoundingRect(crop, _top.cropRotation * 180 / Math.PI), size);
-        _top.engine.procRequest(Qt.rect(region.x, region.y, region.width, region.height), _top.controls.filterOrder);
+        const helpers = _top.windowState.helpers;
+        const size = helpers.imageDataUtils.imageSize(_top.engine.inputImage.image);
+        const part = _top.windowState.currentCropRect;
+        const crop = Qt.rect(part.x * size.width, part.y * size.height, part.width * size.width, part.height * size.height);
+        const bounds = helpers.imageUtils.getBoundingRect(crop, _top.windowState.currentRotation * 180 / Math.PI);
+        const region = Viewport.movedInside(bounds, size);
+        _top.engine.procRequest(Qt.rect(region.x, region.y, region.width, region.height), _top.windowState.controls.filterOrder);
     }
 
-    // A change of settings may change the view, which tells a turn of the event loop later: one run for both.
-    function requestFrom(cause: string): void {
-        console.info("[PROC] Proc requested from " + cause);
-        _private.runAfter(2);
-    }
+    readonly property Connections _ofEngine: Connections {
+        target: _top.engine
 
-    // The view came to rest on another region.
-    function viewChanged(roi: rect): void {
-        if (_top.preview.moving || !_top.imageOpen || _top.exporting || roi.width <= 0 || roi.height <= 0 || _top.panelAnimating)
-            return;
-        console.info("[PROC] Proc requested from request proc");
-        _private.runAfter(1);
-    }
-
-    function procRoiChanged(): void {
-        if (!_top.procAfterRoiUpdated)
-            return;
-        _top.procAfterRoiUpdated = false;
-        _top.requestFrom("proc ROI changed");
-    }
-
-    function paramsChanged(): void {
-        if (!_top.preview.beforeImage)
-            return;
-        if (_top.addingFilter) {
-            console.info("[PROC] Proc ignored while adding filter");
-            return;
+        function onParamsChanged(): void {
+            if (!_top.preview.beforeImage)
+                return;
+            if (_top.addingFilter) {
+                console.info("[PROC] Proc ignored while adding filter");
+                return;
+            }
+            if (_top.windowState.isEditingSubject || _top.windowState.isSelectingText) {
+                console.info("[PROC] Ignoring proc call while masking");
+                return;
+            }
+            if (_top.mousePressed) {
+                console.info("[PROC] Proc likely requested from slider change");
+                _private.queuedProc = true;
+                return;
+            }
+            const roi = _top.preview.procRoi;
+            if (!_top.preview.showBefore && !_top.preview.beforeImageEmpty && roi.width > 0 && roi.height > 0)
+                _private.requestFrom("params changed", 2);
         }
-        if (_top.editingMask) {
-            console.info("[PROC] Ignoring proc call while masking");
-            return;
+
+        function onProcResultChanged(): void {
+            console.info("[PROC] Proc finished");
         }
-        if (_top.mousePressed) {
-            console.info("[PROC] Proc likely requested from slider change");
-            _private.queuedProc = true;
-            return;
+    }
+
+    readonly property Connections _ofPreview: Connections {
+        target: _top.preview
+
+        // The view came to rest on another region.
+        function onRequestProc(roi: rect): void {
+            const state = _top.windowState;
+            if (!_top.preview.moving && state.imageOpen && !state.isExporting && roi.width > 0 && roi.height > 0 && !_top.panel.animating)
+                _private.requestFrom("request proc", 1);
         }
-        const roi = _top.preview.procRoi;
-        if (!_top.preview.showBefore && !_top.preview.beforeImageEmpty && roi.width > 0 && roi.height > 0)
-            _top.requestFrom("params changed");
+
+        function onProcRoiChanged(): void {
+            if (!_top.procAfterRoiUpdated)
+                return;
+            _top.procAfterRoiUpdated = false;
+            _private.requestFrom("proc ROI changed", 2);
+        }
+    }
+
+    readonly property Connections _ofControls: Connections {
+        target: _top.windowState.controls
+
+        function onFilterOrderChanged(): void {
+            _private.requestFrom("right panel", 2);
+        }
+    }
+
+    readonly property Connections _ofPanel: Connections {
+        target: _top.panel
+
+        function onEditModeChanged(): void {
+            _private.requestFrom("edit mode changed", 2);
+        }
     }
 
     readonly property QtObject _private: QtObject {
         id: _private
+
         property bool queuedProc: false
         property int turnsLeft: 0 // of the event loop until a run
 
-        function runAfter(turns: int): void {
+        // A change of settings may change the view, which tells a turn of the event loop later: with two turns to
+        // wait both make one run.
+        function requestFrom(cause: string, turns: int): void {
+            console.info("[PROC] Proc requested from " + cause);
             turnsLeft = Math.max(turnsLeft, turns);
             Qt.callLater(_private.nextTurn);
         }
@@ -118,19 +136,19 @@ QtObject {
 
         // Why nothing is to be run now, in the words of the log; empty when all gates are open.
         function shutGate(roi: rect): string {
-            if (_top.loading)
+            if (_top.windowState.isLoading)
                 return "[PROC] Ignoring proc call while running loading image";
-            if (_top.autopilotRunning)
+            if (_top.windowState.autopilotRunning)
                 return "[PROC] Ignoring proc call while running AP";
-            if (_top.exporting)
+            if (_top.windowState.isExporting)
                 return "[PROC] Ignoring proc call while exporting";
-            const current = _top.controls.currentControls;
+            const current = _top.windowState.controls.currentControls;
             if (skipsOnce(current))
                 return "Skipping proc due to update flag on Enhance";
             if (isCovered(roi, current.changesCount))
                 return "Skipping proc due to previous proc already covering new roi";
             // The image may have gone since the call was deferred.
-            if (!_top.imageOpen || roi.width <= 0 || roi.height <= 0)
+            if (!_top.windowState.imageOpen || roi.width <= 0 || roi.height <= 0)
                 return "[PROC] Ignoring proc call without an image";
             return "";
         }
@@ -138,9 +156,9 @@ QtObject {
         // By the last result, of this image and these settings.
         function isCovered(roi: rect, changesCount: int): bool {
             const last = _top.engine.procResult;
-            if (!last.requestUid || last.filepath !== _top.controls.currentImage || last.changesCount !== changesCount)
+            if (!last.requestUid || last.filepath !== _top.windowState.controls.currentImage || last.changesCount !== changesCount)
                 return false;
-            return _top.imageUtils.doesRectCoverRect(last.requestRoi, roi);
+            return _top.windowState.helpers.imageUtils.doesRectCoverRect(last.requestRoi, roi);
         }
 
         // The resolution controls set this flag to change values without a run.
@@ -148,7 +166,7 @@ QtObject {
             const params = current["Enhance"]?.params;
             if (!params?.updated)
                 return false;
-            _top.controls.setParams("Enhance", Object.assign({}, params, {
+            _top.windowState.controls.setParams("Enhance", Object.assign({}, params, {
                 "updated": false
             }));
             return true;

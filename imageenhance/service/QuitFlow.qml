@@ -1,12 +1,14 @@
 import QtQuick
+import TQmlUtils
+import imageenhance
 
 // Whether the window may close. It may when no image is open, after the user has confirmed, and after an export.
 QtObject {
     id: _top
 
     required property bool imageOpen
-    required property var settings // MainSettings
-    required property var osUtils // OSUtils
+    required property MainSettings settings
+    required property OSUtils osUtils
 
     readonly property bool allowExit: !_top.imageOpen || _private.warningShown
 

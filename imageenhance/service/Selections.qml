@@ -1,19 +1,19 @@
 import QtQuick
+import imageenhance
 
 // Masks, superpixels and hover: asks the engine for what a selection needs, and keeps its answers while they are of
 // the image that is shown.
 QtObject {
     id: _top
 
-    required property var engine // ImageProcessor
-    required property var controls // TControls
-    required property var preview // ImagePreview
-    required property bool exporting
+    required property ImageProcessor engine
+    required property ImagePreview preview
+    required property WindowState windowState
 
     readonly property Timer _timer: Timer {
         id: _hoverTimer
         interval: 50
-        onTriggered: _top.engine.updateSelectionMaskHover(_top.engine.inputImage, _top.controls.subjectSettings, _private.position)
+        onTriggered: _top.engine.updateSelectionMaskHover(_top.engine.inputImage, _top.windowState.controls.subjectSettings, _private.position)
     }
 
     readonly property Connections _ofPreview: Connections {
@@ -27,11 +27,11 @@ QtObject {
     }
 
     readonly property Connections _ofControls: Connections {
-        target: _top.controls
+        target: _top.windowState.controls
 
         function onSubjectSettingsChanged(subjectSettings: var): void {
             // While another image is being read the engine still holds the one before.
-            if (_private.isShown(_top.engine.inputImage.uid) && _top.engine.inputImage.filepath === _top.controls.currentImage)
+            if (_private.isShown(_top.engine.inputImage.uid) && _top.engine.inputImage.filepath === _top.windowState.controls.currentImage)
                 _top.engine.editSubjectMask(_top.engine.inputImage, subjectSettings);
         }
     }
@@ -40,7 +40,7 @@ QtObject {
         target: _top.engine
 
         function onMaskGenerated(uid: string, maskHashes: var, brushTextures: var): void {
-            if (!_private.isShown(uid) || _top.exporting)
+            if (!_private.isShown(uid) || _top.windowState.isExporting)
                 return;
             _top.engine.maskTextures = {
                 "uid": uid,

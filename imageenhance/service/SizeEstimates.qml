@@ -1,4 +1,6 @@
 import QtQuick
+import TImageIO
+import imageenhance
 import "../utils/writerOptions.mjs" as Writer
 
 // How large the file would be that a save writes now: asks the writer, and drops answers to what is no longer wanted.
@@ -6,13 +8,11 @@ import "../utils/writerOptions.mjs" as Writer
 QtObject {
     id: _top
 
-    required property var writer // TImageWriter
-    required property var imageUtils // TImageUtils
-    required property var integrations // TIntegrations
-    required property var settings // MainSettings
-    required property var engine // ImageProcessor
-    required property var panel // RightPanel: shows the size of the current image
-    required property string currentImage
+    required property ImageProcessor engine
+    required property TImageWriter writer
+    required property RightPanel panel // shows the size of the current image
+    required property WindowState windowState
+    required property MainSettings settings
 
     readonly property alias fileSize: _private.fileSize // the latest answer, in bytes
 
@@ -21,7 +21,7 @@ QtObject {
     signal failed(string path, string why)
 
     function request(imageData: var): void {
-        if (!imageData.filepath || !_top.integrations.fileSizeEstimationSupported)
+        if (!imageData.filepath || !_top.windowState.integrations.fileSizeEstimationSupported)
             return;
         const extension = _private.extensionOf(imageData.filepath);
         _private.asked.push(imageData.filepath);
@@ -43,7 +43,7 @@ QtObject {
             _private.answered(id);
             _private.fileSize = fileSize;
             _top.estimated(id, extension, saveOptions, fileSize);
-            if (id !== _top.currentImage || extension !== _private.extensionOf(id))
+            if (id !== _top.windowState.controls.currentImage || extension !== _private.extensionOf(id))
                 return;
             if (Writer.sameOptions(saveOptions, Writer.writerOptions(extension, _top.settings)))
                 _top.panel.updateFileSizeEstimate(fileSize);
@@ -54,7 +54,7 @@ QtObject {
             if (!_private.answered(path))
                 return;
             _top.failed(path, why);
-            if (path === _top.currentImage)
+            if (path === _top.windowState.controls.currentImage)
                 _top.panel.fileSizeEstimateError(why);
         }
     }
@@ -66,8 +66,9 @@ QtObject {
         property real fileSize: 0
 
         function extensionOf(path: string): string {
-            const format = _top.integrations.isPluginMode ? "preserve" : _top.settings.saveImageFormat;
-            return _top.imageUtils.getExportExtension(_top.imageUtils.getExtension(path), format);
+            const format = _top.windowState.integrations.isPluginMode ? "preserve" : _top.settings.saveImageFormat;
+            const imageUtils = _top.windowState.helpers.imageUtils;
+            return imageUtils.getExportExtension(imageUtils.getExtension(path), format);
         }
 
         function answered(path: string): bool {

@@ -1,13 +1,16 @@
 import QtQuick
+import QtQuick.Controls
+import TNetwork
+import TQmlUtils
 import imageenhance
 
 // The usage event of a start, a while after the window is shown.
 Timer {
     id: _top
 
-    required property var tracker // TEventTracker
-    required property var osUtils // OSUtils
-    required property var appWindow // ApplicationWindow
+    required property TEventTracker tracker
+    required property OSUtils osUtils
+    required property ApplicationWindow appWindow
     required property MainSettings settings
 
     interval: 5000

@@ -1,11 +1,13 @@
 import QtQuick
+import TControls
+import TImageIO
 
 // Keeps the thumbnail writer at what is open and in view, and hands finished thumbnails to the model.
 QtObject {
     id: _top
 
-    required property var controls // TControls
-    required property var writer // TThumbnailWriter
+    required property TControls controls
+    required property TThumbnailWriter writer
 
     function refresh(): void {
         _top.writer.imageDatas = _top.controls.allImageData();

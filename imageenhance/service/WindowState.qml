@@ -1,16 +1,19 @@
 import QtQuick
+import TControls
+import TImageIO
 import TImageSettings
+import TIntegrations
 import imageenhance
 
 // What all views read about the window. State is bound at all times; nothing here is written.
 QtObject {
     id: _top
 
-    required property var controls // TControls
-    required property var reader // TImageReader
-    required property var integrations // TIntegrations
+    required property TControls controls
+    required property TImageReader reader
+    required property TIntegrations integrations
     required property Helpers helpers
-    required property int editMode // RightPanel.EditMode
+    required property int editMode // EditMode
     property bool isSaving: false
     property bool isExporting: false
 
@@ -27,12 +30,12 @@ QtObject {
     readonly property var currentControls: controls.currentControls
     readonly property bool autopilotRunning: imageOpen && currentControls.autoPilot === TImageSettings.Processing
 
-    readonly property bool isRefining: editMode !== RightPanel.EditMode.None
-    readonly property bool isCropping: editMode === RightPanel.EditMode.Crop
-    readonly property bool isEditingSubject: editMode === RightPanel.EditMode.Subject
-    readonly property bool isSelectingFace: editMode === RightPanel.EditMode.Faces
-    readonly property bool isSelectingText: editMode === RightPanel.EditMode.Text
-    readonly property bool isRetouching: editMode === RightPanel.EditMode.Inpaint
+    readonly property bool isRefining: editMode !== EditMode.None
+    readonly property bool isCropping: editMode === EditMode.Crop
+    readonly property bool isEditingSubject: editMode === EditMode.Subject
+    readonly property bool isSelectingFace: editMode === EditMode.Faces
+    readonly property bool isSelectingText: editMode === EditMode.Text
+    readonly property bool isRetouching: editMode === EditMode.Inpaint
     readonly property bool isMasking: isEditingSubject || isSelectingText || isRetouching
     // Previews are empty meanwhile.
     readonly property bool hidesPreview: isSaving || isExporting

@@ -6,12 +6,10 @@ list(APPEND STUDIO_QML
   service/HostConnection.qml
   service/ImageOpening.qml
   service/ImageProcessor.qml
-  service/ImageRoad.qml
-  service/InitialFilters.qml
+  service/ImagePipeline.qml
   service/KeyState.qml
   service/OpenedImages.qml
   service/ProcScheduler.qml
-  service/ProcTriggers.qml
   service/QuitFlow.qml
   service/RecentFiles.qml
   service/Selections.qml

@@ -34,7 +34,7 @@ Rectangle {
             PbButton {
                 compact: true
                 text: "Apply Autopilot"
-                onClicked: _top.panel.applyAutopilot()
+                onClicked: _top.controls.applyRecommendedFilters()
             }
             PbSwitch {
                 text: "Recommend"

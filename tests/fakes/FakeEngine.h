@@ -3,6 +3,8 @@
 #include "contracts/ProcessingBackend.h"
 #include "tests/fakes/Hold.h"
 
+#include <QPointF>
+
 #include <mutex>
 #include <vector>
 
@@ -25,6 +27,9 @@ public:
     std::vector<std::pair<EngineInput, AutopilotOptions>> analyses() const { return read(m_analyses); }
     std::vector<QString> catalogues() const { return read(m_catalogues); }
     std::vector<QString> clearedCaches() const { return read(m_cleared); }
+    /// Of subjects: the image's uid and the settings.
+    std::vector<std::pair<QString, QVariantMap>> masks() const { return read(m_masks); }
+    std::vector<QPointF> hovers() const { return read(m_hovers); }
 
     QVariantMap catalogue(const QString &directory) override {
         record(m_catalogues, directory);
@@ -46,6 +51,24 @@ public:
         return {.image = std::const_pointer_cast<ImageData>(request.input.image), .region = request.region};
     }
     void clearCache(const QString &uid) override { record(m_cleared, uid); }
+    SubjectMasks subjectMasks(const EngineInput &input, const QVariantMap &settings,
+                              const RunControl &) override {
+        record(m_masks, {input.uid, settings});
+        return {};
+    }
+    std::shared_ptr<ImageData> hoverMask(const EngineInput &, const QVariantMap &, const QPointF &position,
+                                         const RunControl &) override {
+        record(m_hovers, position);
+        return nullptr;
+    }
+    /// Forgets all records.
+    void forget() {
+        const std::scoped_lock lock(m_mutex);
+        m_requests.clear();
+        m_analyses.clear();
+        m_masks.clear();
+        m_hovers.clear();
+    }
 
 private:
     template <typename T>
@@ -64,4 +87,6 @@ private:
     std::vector<std::pair<EngineInput, AutopilotOptions>> m_analyses;
     std::vector<QString> m_catalogues;
     std::vector<QString> m_cleared;
+    std::vector<std::pair<QString, QVariantMap>> m_masks;
+    std::vector<QPointF> m_hovers;
 };

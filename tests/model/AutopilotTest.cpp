@@ -51,6 +51,66 @@ TEST(Autopilot, AppliesWhatItEnables) {
                                               "params": { "stg_blur": 0.4 }, "subjectSettings": {} })"));
 }
 
+TEST(Autopilot, LandsInOneOperation) {
+    const QVariantMap landed = json(R"({ "Sharpen": { "enabled": true }, "Denoise": { "enabled": true },
+                                         "Enhance": { "enabled": true }, "RAW": { "enabled": false, "p": 1 },
+                                         "Text Recovery": { "enabled": false } })");
+    const QStringList recommended = {Denoise, Sharpen, u"Enhance"_s};
+    const std::string stored = "currentControls hasS3UploadableImages " + Propagated + " autoPilotCalculated";
+    const std::string ordered = " currentControls filterOrder " + Propagated;
+    struct Row {
+        const char *name;
+        std::function<void(C)> prepare;
+        bool recommend;
+        bool add;
+        QStringList order;
+        std::string fires;
+    };
+    const auto visited = [](C c) {
+        addFilter(c, u"Inpaint"_s, u"Inpaint"_s);
+        c.markInitialFiltersApplied();
+    };
+    const Row rows[] = {
+        {"recommended", [](C) {}, true, true, recommended, stored + " autoPilotApplied" + ordered},
+        {"not recommended", [](C) {}, false, true, {}, stored + ordered},
+        {"not recommended, RAW",
+         [](C c) { c.setCurrentIndex(2); },
+         false,
+         true,
+         {u"RAW"_s},
+         stored + ' ' + Propagated + ' ' + Propagated + ordered},
+        {"visited before", visited, true, true, {u"Inpaint"_s}, stored + ordered},
+        {"asked for before the answer",
+         [&](C c) {
+             visited(c);
+             c.applyAutopilotToImage();
+         },
+         false, true, recommended, stored + " autoPilotApplied" + ordered},
+        {"while an edit mode is open", [](C) {}, true, false, {}, stored},
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        ThreeImages c;
+        row.prepare(c);
+        SignalRecorder recorder(c);
+        c.landAutopilot(landed, row.recommend, row.add);
+        EXPECT_EQ(recorder.take(), row.fires);
+        EXPECT_EQ(c.filterOrder(), row.order);
+        const QVariantMap controls = c.currentControls();
+        EXPECT_EQ(controls.value(u"autoPilot"_s).toInt(), TImageSettings::On);
+        EXPECT_TRUE(c.isAutopilotCalculated({}));
+        EXPECT_EQ(controls.value(u"initialFiltersApplied"_s).toBool(), row.add);
+        EXPECT_FALSE(controls.value(u"applyAutopilotOnceCalculated"_s).toBool());
+        for (const QString &name : row.order)
+            EXPECT_TRUE(controls.value(name).toMap().value(u"enabled"_s).toBool());
+    }
+    ThreeImages c;
+    visited(c);
+    c.landAutopilot(landed, false, true);
+    c.applyRecommendedFilters();
+    EXPECT_EQ(c.filterOrder(), recommended) << "whatever was there";
+}
+
 TEST(Autopilot, ResetToAuto) {
     ThreeImages c;
     applied(c);

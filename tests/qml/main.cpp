@@ -1,8 +1,12 @@
+#include "FakeBackends.h"
+
 #include "system/Identity.h"
 
 #include <QQmlEngine>
+#include <QQmlError>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QtPlugin>
 #include <QtQml/QQmlExtensionPlugin>
 #include <QtQuickTest>
@@ -43,10 +47,17 @@ public Q_SLOTS:
         // Settings of the tests' own: nobody's are read or written.
         Identity::setOnApplication();
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
-        qmlRegisterType<LogLines>("LogLines", 1, 0, "LogLines");
+        qmlRegisterType<LogLines>("Testing", 1, 0, "LogLines");
+        qmlRegisterType<FakeBackends>("Testing", 1, 0, "FakeBackends");
+        FakeBackends::install();
     }
     void qmlEngineAvailable(QQmlEngine *engine) {
         engine->addImportPath(QStringLiteral(":/"));
+        // A document that warns fails the test that runs.
+        connect(engine, &QQmlEngine::warnings, this, [](const QList<QQmlError> &warnings) {
+            for (const QQmlError &warning : warnings)
+                QTest::qFail(warning.toString().toUtf8().constData(), __FILE__, __LINE__);
+        });
         engine->addImportPath(QStringLiteral(":/PebbleUI"));
     }
 

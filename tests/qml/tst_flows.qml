@@ -8,188 +8,180 @@ TestCase {
 
     name: "Flows"
 
-    property bool exporting: false
-    property bool imageOpen: true
     property var log: []
 
-    FakeEngine {
-        id: engine
-    }
-    FakeControls {
-        id: controls
-    }
-    QtObject {
-        id: settings
-        property rect windowGeometry
-    }
-    QtObject {
-        id: osUtils
-        function geometry(): rect {
-            return Qt.rect(10, 20, 1300, 800);
-        }
-    }
-    QtObject {
-        id: scheduler
-        function procFull(): void {
-            _case.log.push("full");
-        }
-        function procCurrentRoi(): void {
-            _case.log.push("roi");
-        }
-    }
-    AutopilotRun {
-        id: autopilot
-        engine: engine
-        controls: controls
-        scheduler: scheduler
-        exporting: _case.exporting
-        faceDetection: "auto"
-        subjectType: "none"
-        onLanded: _case.log.push("landed")
-        onStepsChosen: steps => _case.log.push(steps)
-    }
-    InitialFilters {
-        id: filters
-        controls: controls
-        recommendFilters: true
+    WindowParts {
+        id: parts
+        testCase: _case
+        onLoadingFailed: (path, error) => _case.log.push(path)
     }
     ClosingFlow {
         id: closing
-        controls: controls
-        engine: engine
+        controls: parts.controls
+        engine: parts.engine
         onAskToClose: _case.log.push("ask")
     }
     ClosingSeveralFlow {
         id: several
-        controls: controls
+        controls: parts.controls
         onAskToCloseSelected: _case.log.push("ask")
         onAskToCloseAll: _case.log.push("ask")
     }
     QuitFlow {
         id: quit
-        imageOpen: _case.imageOpen
-        settings: settings
-        osUtils: osUtils
+        imageOpen: parts.windowState.imageOpen
+        settings: parts.settings
+        osUtils: parts.helpers.osUtils
         onAskToQuit: _case.log.push("ask")
         onCloseWindow: _case.log.push("close")
         onLeaving: _case.log.push("leaving")
     }
 
+    function initTestCase(): void {
+        parts.settings.autopilotRecommendFilters = true;
+        parts.settings.autopilotFaceDetect = "auto";
+        parts.settings.autopilotSubjectType = "none";
+        parts.backends.advise({ Sharpen: { enabled: true, p: 1 }, Denoise: { enabled: true, p: 1 }, Enhance: { enabled: false } });
+    }
+
     function init(): void {
-        exporting = false;
-        imageOpen = true;
-        controls.loadedImages = ["/a.jpg", "/b.jpg"];
-        controls.selectedImages = [0];
-        controls.currentIndex = 0;
-        controls.modified = ["/a.jpg", "/b.jpg"];
-        controls.justSaved = [];
-        controls.filterOrder = ["Denoise"];
-        controls.isRaw = false;
-        controls.currentControls = { autoPilot: TImageSettings.On };
-        engine.inputImage = { uid: "/a.jpg#1" };
+        parts.open(["/a.jpg", "/b.jpg"]);
+        parts.controls.selectedImages = [0];
         closing.cancel();
         several.cancel();
-        controls.calls = [];
-        engine.calls = [];
         log = [];
     }
 
-    // Autopilot
+    // From a path to a picture
 
-    function test_new_picture_starts_a_run(): void {
-        autopilot.setupImage();
-        compare(engine.calls, ["cancel", { uid: "/a.jpg#1", options: { regenerateMask: true } }]);
-        compare(controls.currentControls.autoPilot, TImageSettings.Processing);
+    function test_picture_is_read_analysed_given_filters_and_run_once(): void {
+        parts.open([]);
+        parts.backends.addFile("/new.jpg", 1000, 800);
+        parts.backends.holdAnalyses(true);
+        parts.controls.loadImages(["/new.jpg"]);
+        tryVerify(() => parts.backends.analyses().length === 1, 60000);
+        compare(parts.windowState.autopilotRunning, true);
+        compare(parts.backends.analyses(), [{ uid: parts.engine.inputImage.uid, regenerateMask: true, forceFaceDetect: false }]);
+        parts.backends.holdAnalyses(false);
+        const runs = parts.runs();
+        compare(runs.map(run => [run.path, run.order, run.region]), [["/new.jpg", ["Denoise", "Sharpen"], parts.preview.procRoi]]);
+        compare(runs[0].params.Sharpen.params, { p: 1 });
+        compare(parts.controls.currentControls.autoPilot, TImageSettings.On);
+        parts.forget();
+        parts.controls.setFilterOrder(["Sharpen"]);
+        parts.controls.setCurrentIndex(0, true);
+        parts.reader.reload();
+        const again = parts.runs();
+        compare([again.length, again[again.length - 1].order], [1, ["Sharpen"]], "a visit asks again and leaves the filters alone");
     }
 
-    function test_no_run_data(): var {
+    function test_answer_while_editing_leaves_the_filters_alone(): void {
+        parts.open([]);
+        parts.editMode = EditMode.Faces;
+        parts.controls.loadImages(["/a.jpg"]);
+        parts.settle();
+        compare([parts.controls.currentControls.autoPilot, parts.controls.filterOrder], [TImageSettings.On, []]);
+        verify(!parts.controls.currentControls.initialFiltersApplied);
+        parts.editMode = EditMode.None;
+        parts.reader.reload();
+        parts.settle();
+        compare(parts.controls.filterOrder, ["Denoise", "Sharpen"], "the next answer brings them");
+    }
+
+    function test_new_analysis_ends_the_run(): void {
+        parts.backends.holdRuns(true);
+        parts.controls.setFilterOrder(["Sharpen"]);
+        tryVerify(() => parts.engine.processing, 60000);
+        parts.pipeline.autopilot.runFaceDetection();
+        tryVerify(() => parts.cancelled === 1, 60000);
+        parts.backends.holdRuns(false);
+        parts.settle();
+        compare(parts.backends.analyses().map(asked => asked.forceFaceDetect), [true]);
+    }
+
+    function test_no_analysis_data(): var {
         return [
-            { tag: "switched off", status: TImageSettings.Off, uid: "/a.jpg#1", exporting: false, full: 0 },
-            { tag: "switched off, exporting", status: TImageSettings.Off, uid: "/a.jpg#1", exporting: true, full: 1 },
-            { tag: "no picture", status: TImageSettings.On, uid: undefined, exporting: false, full: 0 }
+            { tag: "switched off" },
+            { tag: "switched off, exporting", exporting: true },
+            { tag: "no picture", path: "" }
         ];
     }
 
-    function test_no_run(row): void {
-        engine.inputImage = { uid: row.uid };
-        controls.currentControls = { autoPilot: row.status };
-        exporting = row.exporting;
-        autopilot.setupImage();
-        compare(engine.calls.length, 0);
-        compare(log.length, row.full);
+    function test_no_analysis(row): void {
+        parts.controls.setAutoPilotStatus(TImageSettings.Off);
+        parts.settle();
+        parts.windowState.isExporting = row.exporting === true;
+        parts.forget();
+        if (row.path === "")
+            parts.reader.clear();
+        else
+            parts.reader.reload();
+        const runs = parts.runs();
+        compare([parts.backends.analyses().length, runs.filter(run => run.exporting).length], [0, row.exporting ? 1 : 0]);
     }
 
     function test_answers_data(): var {
         return [
-            { tag: "of the image shown", uid: "/a.jpg#1", landed: true },
+            { tag: "of the image shown", landed: true },
             { tag: "of an earlier load", uid: "/a.jpg#0", landed: false },
-            { tag: "of the image left behind", uid: "/a.jpg#1", index: 1, landed: false }
+            { tag: "of the image left behind", index: 1, landed: false }
         ];
     }
 
     function test_answers(row): void {
-        controls.currentIndex = row.index ?? 0;
-        autopilot.finished(row.uid, { Denoise: { enabled: true } });
-        compare(log.includes("landed"), row.landed);
-        compare(controls.calls.length, row.landed ? 2 : 0);
+        const uid = row.uid ?? parts.engine.inputImage.uid;
+        parts.backends.holdReads(true);
+        parts.controls.setCurrentIndex(row.index ?? 0);
+        parts.controls.setAutoPilotStatus(TImageSettings.Processing);
+        parts.engine.autoPilotFinished(uid, { Denoise: { enabled: true } });
+        compare(parts.controls.currentControls.autoPilot === TImageSettings.On, row.landed);
     }
 
     function test_steps_follow_the_settings(): void {
-        compare(autopilot.stepsOfNewImage(), ["loading", "params", "final", "faces"]);
+        compare(parts.pipeline.autopilot.stepsOfNewImage(), ["loading", "params", "final", "faces"]);
     }
 
-    function test_first_filters_data(): var {
-        return [
-            { tag: "recommended", controls: {}, order: ["Denoise", "Sharpen", "Enhance"], applied: true },
-            { tag: "visited before", controls: { initialFiltersApplied: true }, order: ["Denoise"], applied: false },
-            { tag: "asked for by hand", controls: { initialFiltersApplied: true, applyAutopilotOnceCalculated: true }, order: ["Denoise", "Sharpen", "Enhance"], applied: true },
-            { tag: "not recommended", off: true, controls: {}, order: ["Denoise"], applied: false },
-            { tag: "not recommended, RAW", off: true, raw: true, controls: {}, order: ["RAW"], applied: false }
-        ];
-    }
-
-    function test_first_filters(row): void {
-        filters.recommendFilters = !row.off;
-        controls.isRaw = row.raw === true;
-        controls.currentControls = row.controls;
-        filters.load();
-        compare(controls.calls.filter(call => call.order).length, 1, "one order, and so one run");
-        compare(controls.filterOrder, row.order);
-        compare(controls.calls.includes("apply"), row.applied);
-        verify(controls.calls.includes("marked"));
-        verify(!filters.addingFilter);
+    function test_file_that_cannot_be_read_is_closed(): void {
+        parts.controls.loadImages(["/no.jpg"]);
+        tryVerify(() => parts.controls.loadedImages.length === 2, 60000);
+        parts.settle();
+        compare([log, parts.controls.currentImage, parts.reader.filepath], [["/no.jpg"], "/b.jpg", "/b.jpg"]);
     }
 
     // Closing and quitting
 
     function test_closing_asks_only_for_changes_data(): var {
+        const change = () => parts.controls.setParam("Denoise", "p", 0.5);
         return [
-            { tag: "changed", asks: true },
-            { tag: "as Autopilot left it", modified: [], asks: false },
-            { tag: "just saved", justSaved: ["/a.jpg"], asks: false },
-            { tag: "no filters", order: [], asks: false }
+            { tag: "changed", set: change, asks: true },
+            { tag: "as Autopilot left it", set: () => {}, asks: false },
+            { tag: "just saved", set: () => { change(); parts.controls.setJustSaved(0); }, asks: false },
+            { tag: "no filters", set: () => { change(); parts.controls.setFilterOrder([]); }, asks: false }
         ];
     }
 
     function test_closing_asks_only_for_changes(row): void {
-        controls.modified = row.modified ?? controls.modified;
-        controls.justSaved = row.justSaved ?? [];
-        controls.filterOrder = row.order ?? controls.filterOrder;
+        row.set();
         closing.closeImage(0);
         compare(log, row.asks ? ["ask"] : []);
-        compare(controls.loadedImages.length, row.asks ? 2 : 1);
+        compare(parts.controls.loadedImages.length, row.asks ? 2 : 1);
     }
 
     function test_closing_after_the_question(): void {
+        for (const index of [1, 0]) {
+            parts.controls.setCurrentIndex(index);
+            parts.settle();
+            parts.controls.setParam("Denoise", "p", 0.5);
+        }
         closing.closeImage(0);
         closing.cancel();
         closing.confirm();
-        compare(controls.loadedImages.length, 2, "an answer without a question");
+        compare(parts.controls.loadedImages.length, 2, "an answer without a question");
         closing.closeImage(0);
         closing.closeImage(1);
         compare(log, ["ask", "ask", "ask"]);
         closing.confirm();
-        compare(controls.loadedImages, ["/a.jpg"], "the last one asked about");
+        compare(parts.controls.loadedImages, ["/a.jpg"], "the last one asked about");
         closing.closeImage(0);
         compare(log.length, 4, "a confirmation counts once");
         closing.closeImage(7);
@@ -199,29 +191,32 @@ TestCase {
 
     function test_closing_several_data(): var {
         return [
-            { tag: "some", selected: [0], close: () => several.closeSelectedImages(), call: "closeSelected" },
-            { tag: "all selected", selected: [0, 1], close: () => several.closeSelectedImages(), call: "reset" },
-            { tag: "all", selected: [0], close: () => several.closeAllImages(), call: "reset" }
+            { tag: "some", selected: [0], close: () => several.closeSelectedImages(), left: ["/b.jpg"] },
+            { tag: "all selected", selected: [0, 1], close: () => several.closeSelectedImages(), left: [] },
+            { tag: "all", selected: [0], close: () => several.closeAllImages(), left: [] }
         ];
     }
 
     function test_closing_several(row): void {
-        controls.selectedImages = row.selected;
+        parts.controls.selectedImages = row.selected;
         row.close();
         several.cancel();
         several.confirm();
-        compare(controls.calls, []);
+        compare(parts.controls.loadedImages.length, 2);
         row.close();
         compare(log, ["ask", "ask"]);
         several.confirm();
+        compare(parts.controls.loadedImages, row.left);
+        parts.controls.selectedImages = [0];
         several.confirm();
-        compare(controls.calls, [row.call]);
+        compare(parts.controls.loadedImages, row.left, "a confirmation counts once");
     }
 
     function test_quitting(): void {
+        parts.settings.windowGeometry = Qt.rect(0, 0, 1, 1);
         quit.imagesOpened();
         verify(!quit.mayClose());
-        compare(settings.windowGeometry, Qt.rect(10, 20, 1300, 800), "kept though refused");
+        compare(parts.settings.windowGeometry, parts.helpers.osUtils.geometry(), "kept though refused");
         quit.confirm();
         compare(log, ["ask", "close"]);
         verify(quit.mayClose());
@@ -231,7 +226,7 @@ TestCase {
         quit.exportFinished();
         verify(quit.mayClose());
         quit.imagesOpened();
-        imageOpen = false;
+        parts.controls.reset();
         verify(quit.mayClose(), "nothing to lose");
     }
 }

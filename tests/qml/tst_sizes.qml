@@ -8,72 +8,33 @@ TestCase {
 
     name: "SizeEstimates"
 
+    readonly property var choice: ({ saveJpegQuality: 80, savePngCompression: 2, savePngBitDepth: "16", saveTiffCompression: "zip", saveTiffBitDepth: "16", saveDngCompression: "1" })
+
     property var log: []
 
-    QtObject {
-        id: settings
-        property string saveImageFormat: "preserve"
-        property int saveJpegQuality: 80
-        property int savePngCompression: 2
-        property string savePngBitDepth: "16"
-        property string saveTiffCompression: "zip"
-        property string saveTiffBitDepth: "16"
-        property string saveDngCompression: "1"
+    WindowParts {
+        id: parts
+        testCase: _case
     }
-    QtObject {
-        id: writer
-        property var asked: []
-        signal fileSizeEstimated(id: string, extension: string, saveOptions: var, fileSize: real)
-        signal errorSaving(path: string, why: string)
-        function estimateFileSize(imageData: var, extension: string, options: var): void {
-            asked.push({ extension, options });
+    Connections {
+        target: parts.pipeline.sizes
+
+        function onEstimated(path: string): void {
+            _case.log.push(path);
         }
-    }
-    QtObject {
-        id: imageUtils
-        function getExtension(path: string): string {
-            return path.slice(path.lastIndexOf(".") + 1);
+
+        function onFailed(path: string, why: string): void {
+            _case.log.push(path + " " + why);
         }
-        function getExportExtension(extension: string, format: string): string {
-            return format === "preserve" ? extension : format;
-        }
-    }
-    QtObject {
-        id: integrations
-        property bool isPluginMode: false
-        property bool fileSizeEstimationSupported: true
-    }
-    QtObject {
-        id: panel
-        signal estimateFileSize
-        function updateFileSizeEstimate(fileSize: real): void {
-            _case.log.push(fileSize);
-        }
-        function fileSizeEstimateError(why: string): void {
-            _case.log.push(why);
-        }
-    }
-    FakeEngine {
-        id: engine
-    }
-    SizeEstimates {
-        id: sizes
-        writer: writer
-        imageUtils: imageUtils
-        integrations: integrations
-        settings: settings
-        engine: engine
-        panel: panel
-        currentImage: "/a.jpg"
-        onEstimated: path => _case.log.push(path)
-        onFailed: path => _case.log.push(path)
     }
 
     function init(): void {
-        settings.saveImageFormat = "preserve";
-        settings.saveJpegQuality = 80;
-        integrations.fileSizeEstimationSupported = true;
-        writer.asked = [];
+        parts.settings.saveImageFormat = "preserve";
+        parts.settings.saveJpegQuality = 80;
+        parts.backends.host.fileSizeEstimationSupported = true;
+        parts.backends.failWriting("/full.jpg", "No room.");
+        parts.open(["/a.jpg", "/b.jpg"]);
+        parts.panel.updateFileSizeEstimate(0);
         log = [];
     }
 
@@ -90,33 +51,37 @@ TestCase {
     }
 
     function test_options(row): void {
-        settings.saveImageFormat = row.format;
-        compare(Writer.writerOptions(row.extension, settings), row.options);
+        const options = Writer.writerOptions(row.extension, Object.assign({ saveImageFormat: row.format }, choice));
+        compare(options, row.options);
+        verify(Writer.sameOptions(options, Object.assign({}, row.options)));
+        verify(!Writer.sameOptions(options, Object.assign({ x: 1 }, row.options)), "more of them");
     }
 
     function test_answers_data(): var {
-        const answer = (id, extension, options) => () => writer.fileSizeEstimated(id, extension, options, 1000);
-        const right = { "Compression": "jpeg:95" };
         return [
-            { tag: "right", answer: answer("/a.jpg", "jpg", right), log: ["/a.jpg", 1000] },
-            { tag: "of another image", answer: answer("/b.jpg", "jpg", right), log: ["/b.jpg"] },
-            { tag: "of another format", answer: answer("/a.jpg", "png", right), log: ["/a.jpg"] },
-            { tag: "of another quality", answer: answer("/a.jpg", "jpg", { "Compression": "jpeg:70" }), log: ["/a.jpg"] },
-            { tag: "with more options", answer: answer("/a.jpg", "jpg", { "Compression": "jpeg:95", "x": 1 }), log: ["/a.jpg"] },
-            { tag: "failed", answer: () => writer.errorSaving("/a.jpg", "No room."), log: ["/a.jpg", "No room."] },
-            { tag: "a save failed", answer: () => writer.errorSaving("/out/a.jpg", "No room."), log: [] }
+            { tag: "right", log: ["/a.jpg"], size: 2400000 },
+            { tag: "of another image", meanwhile: () => parts.controls.setCurrentIndex(1), log: ["/a.jpg"] },
+            { tag: "of another format", meanwhile: () => parts.settings.saveImageFormat = "png", log: ["/a.jpg"] },
+            { tag: "of another quality", meanwhile: () => { parts.settings.saveImageFormat = "jpg"; parts.settings.saveJpegQuality = 70; }, log: ["/a.jpg"] },
+            { tag: "failed", path: "/full.jpg", log: ["/full.jpg No room."], error: "No room." },
+            { tag: "a save failed", meanwhile: () => parts.writer.errorSaving("/out/a.jpg", "No room."), log: ["/a.jpg"], size: 2400000 }
         ];
     }
 
+    // The answer comes by the event loop: what stands between is what a user does meanwhile.
     function test_answers(row): void {
-        panel.estimateFileSize();
-        compare(writer.asked, [{ extension: "jpg", options: { "Compression": "jpeg:95" } }]);
-        row.answer();
+        const path = row.path ?? "/a.jpg";
+        if (row.path)
+            parts.open([path]);
+        parts.panel.estimateFileSize();
+        row.meanwhile?.();
+        tryVerify(() => log.length > 0, 60000);
         compare(log, row.log);
-        writer.errorSaving("/a.jpg", "");
-        log = [];
-        writer.errorSaving("/a.jpg", "No room.");
-        compare(log, [], "one answer to a question");
+        compare([parts.panel.fileSize, parts.panel.fileSizeError], [row.size ?? 0, row.error ?? ""]);
+        if (!row.error)
+            compare(parts.backends.estimates(), [{ path, options: { "Compression": "jpeg:95" } }]);
+        parts.writer.errorSaving(path, "No room.");
+        compare(log, row.log, "one answer to a question");
     }
 
     function test_nothing_is_asked_data(): var {
@@ -127,8 +92,10 @@ TestCase {
     }
 
     function test_nothing_is_asked(row): void {
-        integrations.fileSizeEstimationSupported = row.supported;
-        sizes.request(row.image);
-        compare(writer.asked.length, 0);
+        parts.backends.host.fileSizeEstimationSupported = row.supported;
+        parts.pipeline.sizes.request(row.image);
+        wait(50);
+        compare(parts.backends.estimates(), []);
+        compare(log, []);
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import PebbleUI
+import TControls
 import imageenhance
 
 // The column at the window's right edge: the navigator on top, the enhancements under it. Owns the edit mode of the
@@ -7,18 +8,15 @@ import imageenhance
 Rectangle {
     id: _top
 
-    enum EditMode { None, Crop, Subject, Faces, Text, Inpaint }
-
-    required property var controls // TControls
+    required property TControls controls
     required property MainSettings settings
     required property Item navigator // shown in the panel's slot
     required property bool imageOpen
 
     readonly property int fullWidth: 272
     readonly property int collapsedWidth: 48
-    readonly property bool collapsed: settings.rightPanelCollapsed && editMode !== RightPanel.EditMode.Crop
+    readonly property bool collapsed: settings.rightPanelCollapsed && editMode !== EditMode.Crop
     readonly property alias editMode: _private.editMode
-    readonly property alias addingFilter: _filters.addingFilter
     readonly property alias animating: _animation.running
     readonly property int navigatorWidth: fullWidth
     readonly property bool saveButtonActive: false
@@ -26,21 +24,10 @@ Rectangle {
     readonly property alias fileSize: _private.fileSize // of a save with the present settings; 0 when unknown
     readonly property alias fileSizeError: _private.fileSizeError
 
-    signal requestProc // the filter order changed
     signal estimateFileSize
 
-    function readyToAddFilters(): void {
-        if (editMode === RightPanel.EditMode.None)
-            _filters.load();
-    }
-
-    // Puts all that Autopilot recommends on the image, whatever is there.
-    function applyAutopilot(): void {
-        _filters.applyAutopilot();
-    }
-
     function closeRefineMode(): void {
-        _private.editMode = RightPanel.EditMode.None;
+        _private.editMode = EditMode.None;
     }
 
     function showSteps(steps: var): void {
@@ -81,24 +68,10 @@ Rectangle {
         visible: !_top.collapsed && _top.imageOpen
     }
 
-    InitialFilters {
-        id: _filters
-        controls: _top.controls
-        recommendFilters: _top.settings.autopilotRecommendFilters
-    }
-
-    Connections {
-        target: _top.controls
-
-        function onFilterOrderChanged(): void {
-            _top.requestProc();
-        }
-    }
-
     QtObject {
         id: _private
 
-        property int editMode: RightPanel.EditMode.None
+        property int editMode: EditMode.None
         property var steps: []
         property real fileSize: 0
         property string fileSizeError: ""

@@ -1,12 +1,13 @@
 import QtQuick
 import PebbleUI
+import TImageProcessor
 import imageenhance
 
 // One caption over the picture that says what goes on with it. Folds to its icon a while after the work is done.
 Rectangle {
     id: _top
 
-    required property var engine
+    required property TEngineController engine
     required property int editMode
     required property bool imageLoaded
     required property bool isLoadingImage
@@ -96,7 +97,7 @@ Rectangle {
     }
 
     HoverHandler {
-        enabled: _top.editMode === RightPanel.EditMode.None && _rules.state !== ProgressState.ModelError && !_rules.viewsOriginal
+        enabled: _top.editMode === EditMode.None && _rules.state !== ProgressState.ModelError && !_rules.viewsOriginal
         onHoveredChanged: _private.hover(hovered)
     }
 

@@ -1,12 +1,13 @@
 import QtQuick
+import TImageProcessor
 import imageenhance
 
 // From what the engine, the view and the edit mode say to one state, one caption and one indicator. No screen.
 QtObject {
     id: _top
 
-    required property var engine // progress, status, error, processing, downloadingModels, preCachingPostProcModels
-    required property int editMode // RightPanel.EditMode
+    required property TEngineController engine
+    required property int editMode // EditMode
     required property bool imageLoaded
     required property bool isLoadingImage
     required property bool isRunningAutopilot
@@ -18,8 +19,8 @@ QtObject {
 
     readonly property real progress: engine.progress * 100
     readonly property string status: engine.status
-    readonly property bool inpainting: editMode === RightPanel.EditMode.Inpaint
-    readonly property bool undisturbed: editMode === RightPanel.EditMode.None || inpainting
+    readonly property bool inpainting: editMode === EditMode.Inpaint
+    readonly property bool undisturbed: editMode === EditMode.None || inpainting
 
     readonly property int state: {
         if (!imageLoaded)
@@ -28,7 +29,7 @@ QtObject {
     }
 
     readonly property string caption: {
-        const tellsStage = status !== "" && editMode === RightPanel.EditMode.None && ![ProgressState.Unloaded, ProgressState.RunningAutopilot].includes(state) && progress !== 100;
+        const tellsStage = status !== "" && editMode === EditMode.None && ![ProgressState.Unloaded, ProgressState.RunningAutopilot].includes(state) && progress !== 100;
         return tellsStage ? status + "..." : _private.captionOf(state);
     }
 
@@ -41,14 +42,14 @@ QtObject {
     }
     readonly property bool showsProgress: !showsSpinner && undisturbed && !viewsOriginal && [ProgressState.Processing, ProgressState.DownloadingModel, ProgressState.Inpaint_PostProcessing].includes(state)
     readonly property bool showsIcon: !showsSpinner && !showsProgress && !viewsOriginal
-    readonly property bool showsBar: inpainting || (editMode === RightPanel.EditMode.None && ((progress > 0 && progress < 100) || state === ProgressState.DrawingPreview))
+    readonly property bool showsBar: inpainting || (editMode === EditMode.None && ((progress > 0 && progress < 100) || state === ProgressState.DrawingPreview))
     readonly property string iconRole: {
         switch (editMode) {
-        case RightPanel.EditMode.Crop:
+        case EditMode.Crop:
             return "crop";
-        case RightPanel.EditMode.Subject:
+        case EditMode.Subject:
             return "subject";
-        case RightPanel.EditMode.Faces:
+        case EditMode.Faces:
             return "faceRecovery";
         }
         if (manual)
@@ -106,13 +107,13 @@ QtObject {
 
         function otherwise(): int {
             switch (_top.editMode) {
-            case RightPanel.EditMode.Crop:
+            case EditMode.Crop:
                 return ProgressState.Cropping;
-            case RightPanel.EditMode.Subject:
+            case EditMode.Subject:
                 return ProgressState.Masking;
-            case RightPanel.EditMode.Faces:
+            case EditMode.Faces:
                 return ProgressState.SelectingFaces;
-            case RightPanel.EditMode.Text:
+            case EditMode.Text:
                 return ProgressState.SelectingText;
             }
             if (_top.engine.downloadingModels)

@@ -1,0 +1,132 @@
+#include "FakeBackends.h"
+
+#include "frontends/TEngineController.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+FakeEngine *s_engine = nullptr; // owned by its controller
+std::shared_ptr<FakeFiles> s_files;
+Hold s_runs;
+
+FakeEngine::Process process(double progress, const QString &stage, const QString &error) {
+    return [=](const ProcRequest &request, const RunControl &control) -> ProcResult {
+        if (progress > 0)
+            control.report(progress, stage);
+        if (!s_runs.pass(control))
+            return {.cancelled = true};
+        if (!error.isEmpty())
+            return {.error = error};
+        const QVariantMap enhance = request.params.value(u"Enhance"_s).toMap();
+        const QVariant scale = enhance.value(u"params"_s).toMap().value(u"scale"_s, 1);
+        return {.image = std::const_pointer_cast<ImageData>(request.input.image),
+                .region = request.region,
+                .scale = enhance.value(u"enabled"_s).toBool() ? scale.toDouble() : 1};
+    };
+}
+
+void set(Hold &hold, bool closed) {
+    if (closed)
+        hold.close();
+    else
+        hold.open();
+}
+
+template <typename T, typename F>
+QVariantList listed(const T &records, F toVariant) {
+    QVariantList list;
+    for (const auto &record : records)
+        list.append(toVariant(record));
+    return list;
+}
+
+} // namespace
+
+void FakeBackends::install() {
+    TEngineController::setBackendFactory([] {
+        auto engine = std::make_unique<FakeEngine>();
+        engine->onProcess = process(0, {}, {});
+        engine->models = {{u"Denoise"_s, QVariantMap()}};
+        s_engine = engine.get();
+        return engine;
+    });
+    s_files = std::make_shared<FakeFiles>();
+    setImageFileBackend(s_files);
+}
+
+void FakeBackends::holdReads(bool closed) {
+    set(s_files->readHold, closed);
+}
+
+void FakeBackends::holdRuns(bool closed) {
+    set(s_runs, closed);
+}
+
+void FakeBackends::holdAnalyses(bool closed) {
+    set(s_engine->analysisHold, closed);
+}
+
+void FakeBackends::release() {
+    holdReads(false);
+    holdRuns(false);
+    holdAnalyses(false);
+    scriptRuns(0, {}, {});
+}
+
+void FakeBackends::addFile(const QString &path, int width, int height) {
+    s_files->add(path, width, height);
+}
+
+void FakeBackends::failWriting(const QString &path, const QString &why) {
+    s_files->failWriting(path, why);
+}
+
+void FakeBackends::advise(const QVariantMap &settings) {
+    s_engine->advice = {.settings = settings};
+}
+
+void FakeBackends::scriptRuns(double progress, const QString &stage, const QString &error) {
+    s_engine->onProcess = process(progress, stage, error);
+}
+
+QVariantList FakeBackends::runs() const {
+    return listed(s_engine->requests(), [](const ProcRequest &request) {
+        return QVariantMap{{u"region"_s, QRectF(request.region)},
+                           {u"order"_s, request.filterOrder},
+                           {u"params"_s, request.params},
+                           {u"path"_s, request.input.filepath},
+                           {u"exporting"_s, request.exporting}};
+    });
+}
+
+QVariantList FakeBackends::analyses() const {
+    return listed(s_engine->analyses(), [](const auto &asked) {
+        return QVariantMap{{u"uid"_s, asked.first.uid},
+                           {u"regenerateMask"_s, asked.second.regenerateMask},
+                           {u"forceFaceDetect"_s, asked.second.forceFaceDetect}};
+    });
+}
+
+QVariantList FakeBackends::masks() const {
+    return listed(s_engine->masks(), [](const auto &asked) {
+        return QVariantMap{{u"uid"_s, asked.first}, {u"settings"_s, asked.second}};
+    });
+}
+
+QVariantList FakeBackends::hovers() const {
+    return listed(s_engine->hovers(), [](const QPointF &position) { return QVariant(position); });
+}
+
+QVariantList FakeBackends::estimates() const {
+    return listed(s_files->estimates(),
+                  [](const WriteRequest &request) {
+                      return QVariantMap{{u"path"_s, request.inputPath}, {u"options"_s, request.options}};
+                  })
+        .mid(m_estimatesBefore);
+}
+
+void FakeBackends::forget() {
+    s_engine->forget();
+    m_estimatesBefore = qsizetype(s_files->estimates().size());
+}

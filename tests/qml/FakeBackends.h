@@ -1,0 +1,86 @@
+#pragma once
+
+#include "host/TIntegrations.h"
+#include "host/TIntercom.h"
+#include "system/AppContext.h"
+#include "tests/fakes/FakeEngine.h"
+#include "tests/fakes/FakeFiles.h"
+
+#include <QTemporaryDir>
+#include <QVariantMap>
+
+/// A host application as a test wants it; without one the window is on its own.
+class FakeHost : public TIntegrations {
+    Q_OBJECT
+    Q_PROPERTY(bool fileSizeEstimationSupported MEMBER m_estimates)
+    Q_PROPERTY(QString loadingError MEMBER m_error NOTIFY loadingErrorChanged)
+public:
+    FakeHost()
+        : TIntegrations({QStringLiteral("studio")}) {}
+
+private:
+    bool m_estimates = true;
+    QString m_error;
+};
+
+/// An instance that serves when a test says so, and tells the key that it takes messages by.
+class FakeIntercom : public TIntercom {
+    Q_OBJECT
+    Q_PROPERTY(bool isServer MEMBER m_serves NOTIFY isServerChanged)
+    Q_PROPERTY(QString key MEMBER m_key)
+public:
+    explicit FakeIntercom(const QString &directory)
+        : TIntercom(nullptr, directory, nullptr) {}
+    Q_INVOKABLE void setExternalEditor(const QString &key) { m_key = key; }
+
+private:
+    bool m_serves = false;
+    QString m_key;
+};
+
+/// For documents under test: scripts the engine and the files below the real front ends, and tells what was
+/// asked of them since forget(). The engine is that of the controller made last.
+class FakeBackends : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(TIntegrations *host READ host CONSTANT)
+    Q_PROPERTY(TIntercom *intercom READ intercom CONSTANT)
+    Q_PROPERTY(AppContext *appContext READ appContext CONSTANT)
+public:
+    /// Once, before any front end is made.
+    static void install();
+
+    TIntegrations *host() { return &m_host; }
+    TIntercom *intercom() { return &m_intercom; }
+    AppContext *appContext() { return &m_context; }
+
+    /// Closed, work of that kind stays under way.
+    Q_INVOKABLE void holdReads(bool closed);
+    Q_INVOKABLE void holdRuns(bool closed);
+    Q_INVOKABLE void holdAnalyses(bool closed);
+    /// Opens all holds; runs succeed at once.
+    Q_INVOKABLE void release();
+    Q_INVOKABLE void addFile(const QString &path, int width, int height);
+    Q_INVOKABLE void failWriting(const QString &path, const QString &why);
+    /// The answer to analyses from now on.
+    Q_INVOKABLE void advise(const QVariantMap &settings);
+    /// Runs from now on tell this progress (0 to 1) and stage, and fail if there is an error.
+    Q_INVOKABLE void scriptRuns(double progress, const QString &stage, const QString &error);
+
+    /// `{ region, order, params, path, exporting }` each
+    Q_INVOKABLE QVariantList runs() const;
+    /// `{ uid, regenerateMask, forceFaceDetect }` each
+    Q_INVOKABLE QVariantList analyses() const;
+    /// `{ uid, settings }` each
+    Q_INVOKABLE QVariantList masks() const;
+    Q_INVOKABLE QVariantList hovers() const;
+    /// `{ path, options }` each
+    Q_INVOKABLE QVariantList estimates() const;
+    Q_INVOKABLE void forget();
+
+private:
+    QTemporaryDir m_folder;
+    FakeHost m_host;
+    FakeIntercom m_intercom{m_folder.path()};
+    AppContext m_context{m_folder.path(), m_folder.filePath(QStringLiteral("Logs"))};
+    qsizetype m_estimatesBefore = 0;
+};

@@ -1,0 +1,166 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+import Testing
+import TControls
+import TImageIO
+import imageenhance
+
+// The long-lived objects of the window, joined as `main` joins them, over back ends that a test scripts.
+Item {
+    id: _top
+
+    required property TestCase testCase
+    property int editMode: _panel.editMode
+    property bool originalKeyHeld: false
+
+    readonly property alias backends: _backends
+    readonly property alias settings: _settings
+    readonly property alias helpers: _helpers
+    readonly property alias controls: _controls
+    readonly property alias reader: _reader
+    readonly property alias writer: _writer
+    readonly property alias engine: _engine
+    readonly property alias windowState: _state
+    readonly property alias preview: _preview
+    readonly property alias panel: _panel
+    readonly property alias pipeline: _pipeline
+    property int answers: 0 // of the engine, one for each run that was asked for
+    property int cancelled: 0 // of these
+
+    signal loadingFailed(string path, string error)
+
+    // With pictures of 1000 x 800, the first one current; all that follows has happened and is forgotten.
+    function open(paths: list<string>): void {
+        editMode = Qt.binding(() => _panel.editMode);
+        originalKeyHeld = _state.isSaving = _state.isExporting = false;
+        _backends.release();
+        _controls.reset();
+        settle();
+        for (const path of paths)
+            _backends.addFile(path, 1000, 800);
+        if (paths.length > 0)
+            _controls.loadImages(paths);
+        settle();
+        forget();
+    }
+
+    function forget(): void {
+        _backends.forget();
+        answers = cancelled = 0;
+    }
+
+    // Until what was deferred has happened, which may defer more.
+    function turns(): void {
+        for (let i = 0; i < 6; ++i)
+            testCase.wait(0);
+    }
+
+    // Until all that is under way has ended, too, and what that deferred.
+    function settle(): void {
+        const start = Date.now();
+        for (let quiet = 0; quiet < 8; ++quiet) {
+            testCase.wait(0);
+            if (_reader.loading || _engine.processing || _state.autopilotRunning)
+                quiet = 0;
+            testCase.verify(Date.now() - start < 60000, "work that does not end");
+        }
+    }
+
+    // The runs asked for since the last forget(), each of which reached the engine.
+    function runs(): list<var> {
+        settle();
+        const runs = _backends.runs();
+        testCase.compare(runs.length, answers);
+        return runs;
+    }
+
+    // The settings are newer than the result, and nobody has asked for a run.
+    function makeStale(): void {
+        originalKeyHeld = true;
+        _controls.setParam("Denoise", "strength", Math.random());
+        settle();
+        originalKeyHeld = false;
+        settle();
+    }
+
+    width: 800
+    height: 600
+
+    FakeBackends {
+        id: _backends
+    }
+    ApplicationWindow {
+        id: _window
+    }
+    MainSettings {
+        id: _settings
+    }
+    Helpers {
+        id: _helpers
+        appContext: _backends.appContext
+        appWindow: _window
+        settings: _settings
+    }
+    TControls {
+        id: _controls
+    }
+    TImageReader {
+        id: _reader
+    }
+    TImageWriter {
+        id: _writer
+    }
+    ImageProcessor {
+        id: _engine
+        settings: _settings
+        integrations: _backends.host
+        imageDataUtils: _helpers.imageDataUtils
+        strokes: _controls.currentInpaintStrokes
+        modelDirectory: "/models"
+        inputImage: _state.imageData
+        params: _controls.currentControls
+        exporting: _state.isExporting
+        onProcResultChanged: ++_top.answers
+        onProcError: ++_top.answers
+        onCanceled: {
+            ++_top.answers;
+            ++_top.cancelled;
+        }
+    }
+    WindowState {
+        id: _state
+        helpers: _helpers
+        controls: _controls
+        reader: _reader
+        integrations: _backends.host
+        editMode: _top.editMode
+    }
+    RightPanel {
+        id: _panel
+        controls: _controls
+        settings: _settings
+        navigator: _preview.navigator
+        imageOpen: _state.imageOpen
+    }
+    ImagePreview {
+        id: _preview
+        anchors.fill: parent
+        engine: _engine
+        windowState: _state
+        settings: _settings
+        panKeyHeld: false
+        originalKeyHeld: _top.originalKeyHeld
+        navigatorWidth: _panel.navigatorWidth
+    }
+    ImagePipeline {
+        id: _pipeline
+        engine: _engine
+        writer: _writer
+        preview: _preview
+        panel: _panel
+        windowState: _state
+        settings: _settings
+        onLoadingFailed: (path, error) => _top.loadingFailed(path, error)
+    }
+}
