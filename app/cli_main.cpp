@@ -5,7 +5,7 @@
 #include "app/platform/System.h"
 #include "cli/CLIApplication.h"
 #include "cli/StatusLine.h"
-#include "system/AppContext.h"
+#include "frontends/AppContext.h"
 #include "system/Identity.h"
 
 #include <QDebug>

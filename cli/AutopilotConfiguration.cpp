@@ -54,6 +54,7 @@ void configureAutopilot(const QSettings &settings, TEngineController &engine, TC
         engine.setProperty(preference.engineProperty.toLatin1(),
                            readSetting(settings, preference, preference.consoleInitial));
     engine.setRecommendFilters(true);
+    engine.setEnableDownscaling(true);
     engine.setResizingSupported(true);
     controls.setDefaultSubjectType(defaultSubjectType(settings));
 }

@@ -9,7 +9,7 @@
 #include "cli/Usage.h"
 #include "cli/WriterOptions.h"
 #include "frontends/PreferenceTable.h"
-#include "system/AppContext.h"
+#include "frontends/AppContext.h"
 #include "system/Identity.h"
 #include "system/SystemInfo.h"
 

@@ -1,17 +1,5 @@
-#include "model/SettingsKeys.h"
+#include "contracts/FilterNames.h"
 #include "model/TControls.h"
-
-namespace {
-
-/// The order in which Autopilot's filters are run.
-const QStringList &processingOrder() {
-    static const QStringList order = {Categories::Raw,     Categories::Exposure,    Categories::WhiteBalance,
-                                      Categories::Denoise, Categories::Sharpen,     Categories::FaceRecovery,
-                                      Categories::Enhance, Categories::TextRecovery};
-    return order;
-}
-
-} // namespace
 
 void TControls::landAutopilot(const QVariantMap &answer, bool recommendFilters, bool addFilters) {
     setAutoPilotStatus(TImageSettings::On);
@@ -39,7 +27,7 @@ void TControls::addFirstFilters(bool recommendFilters) {
 QStringList TControls::adoptRecommendedFilters() {
     applyAutopilotToImage();
     const QStringList adopted = filterOrder();
-    QStringList order = processingOrder();
+    QStringList order = Categories::processingOrder();
     order.removeIf([&adopted](const QString &name) { return !adopted.contains(name); });
     return order;
 }

@@ -1,4 +1,5 @@
 #include "contracts/FilterNames.h"
+#include "frontends/PreferenceTable.h"
 #include "frontends/TImageUtils.h"
 #include "model/TControls.h"
 #include "system/OSUtils.h"
@@ -22,7 +23,7 @@ QVariantMap newImageData(const QString &path) {
 }
 
 QStringList recentFiles() {
-    return QSettings().value(u"recentFiles"_s).toStringList();
+    return storedPreference(QSettings(), u"recentFiles").toStringList();
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 #include "items/WindowsThemeListener.h"
 #include "presets/TFilterGenerator.h"
 #include "presets/TFormat.h"
-#include "system/AppContext.h"
+#include "frontends/AppContext.h"
 
 #include <QQmlApplicationEngine>
 

@@ -1,6 +1,7 @@
 import QtQuick
 import TControls
 import TIntegrations
+import TIntercom
 
 // What other programs and further instances bring: images of start arguments, drops and merged instances, and a host's
 // messages.
@@ -8,7 +9,7 @@ QtObject {
     id: _top
 
     required property TIntegrations integrations
-    required property var intercom // TIntercom
+    required property TIntercom intercom
     required property TControls controls
     readonly property bool merging: _mergingTimer.running
 

@@ -1,7 +1,7 @@
 #include "app/AppState.h"
 #include "app/SessionList.h"
 #include "app/SettingsStore.h"
-#include "system/AppContext.h"
+#include "frontends/AppContext.h"
 
 #include <QDir>
 #include <QSettings>

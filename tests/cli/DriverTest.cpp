@@ -2,7 +2,7 @@
 
 #include "cli/CLIApplication.h"
 #include "frontends/FileBackends.h"
-#include "system/AppContext.h"
+#include "frontends/AppContext.h"
 #include "tests/fakes/FakeEngine.h"
 #include "tests/fakes/FakeFiles.h"
 

@@ -2,7 +2,7 @@
 
 #include "host/TIntegrations.h"
 #include "host/TIntercom.h"
-#include "system/AppContext.h"
+#include "frontends/AppContext.h"
 #include "tests/fakes/FakeEngine.h"
 #include "tests/fakes/FakeFiles.h"
 

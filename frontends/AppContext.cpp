@@ -1,5 +1,6 @@
-#include "system/AppContext.h"
+#include "frontends/AppContext.h"
 
+#include "frontends/PreferenceTable.h"
 #include "system/Identity.h"
 
 #include <QCoreApplication>
@@ -21,7 +22,7 @@ QString makePresetsDirectory(const QString &logDirectory) {
 AppContext::AppContext(const QString &modelDirectory, const QString &logDirectory, QObject *parent)
     : QObject(parent)
     , m_appName(QCoreApplication::applicationName())
-    , m_isDev(QSettings().value(QStringLiteral("developerMode"), false).toBool())
+    , m_isDev(storedPreference(QSettings(), u"developerMode").toBool())
     , m_modelDirectory(modelDirectory)
     , m_logDirectory(logDirectory)
     , m_presetsDirectory(makePresetsDirectory(logDirectory)) {
