@@ -2,13 +2,9 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "Button"
-    when: windowShown
-    width: 300
-    height: 120
-    visible: true
 
     Item {
         id: _shortcuts
@@ -32,15 +28,10 @@ TestCase {
         tooltip.text: "Remove"
     }
 
-    SignalSpy {
-        id: _clicks
-        target: _button
-        signalName: "clicked"
-    }
+    SignalSpy { id: _clicks; target: _button; signalName: "clicked" }
 
-    function init(): void {
-        failOnWarning(/.?/);
-        mouseMove(_top, 299, 119);
+    function reset(): void {
+        mouseMove(_top, 399, 299);
         _button.enabled = true;
         _button.selected = false;
         _shortcuts.forceActiveFocus();

@@ -3,15 +3,12 @@ import QtTest
 import PebbleUI
 
 // Choices of one and of several rows.
-TestCase {
+PebbleCase {
     id: _top
     name: "ComboBox"
-    when: windowShown
-    width: 400
-    height: 300
-    visible: true
+    maker: Component { PbComboBox { model: _top.entries } }
+    spied: "activated"
 
-    property var fallback: "b"
     property list<string> parts: []
 
     readonly property list<var> entries: [
@@ -19,11 +16,6 @@ TestCase {
         { text: "Beta", value: "b" },
         { text: "A very long name of a thing that no list of this width could ever show", value: "c", secondary: "long" },
     ]
-
-    Component {
-        id: _maker
-        PbComboBox { model: _top.entries }
-    }
 
     Component {
         id: _multiMaker
@@ -34,26 +26,8 @@ TestCase {
         }
     }
 
-    SignalSpy { id: _opened; signalName: "opened" }
-    SignalSpy { id: _activated; signalName: "activated" }
-
-    function init(): void {
-        failOnWarning(/.?/);
+    function reset(): void {
         parts = [];
-    }
-
-    function make(maker: Component, properties: var): PbComboBox {
-        const box = createTemporaryObject(maker, _top, properties);
-        for (const spy of [_opened, _activated]) {
-            spy.target = box;
-            spy.clear();
-        }
-        return box;
-    }
-
-    function rowOf(box: PbComboBox, index: int): Item {
-        box.popup.contentItem.forceLayout();
-        return box.popup.contentItem.itemAtIndex(index);
     }
 
     function test_set_value_data(): var {
@@ -68,7 +42,7 @@ TestCase {
     }
 
     function test_set_value(row: var): void {
-        const box = make(_maker, row.model ? { model: row.model } : {});
+        const box = make(row.model ? { model: row.model } : {});
         box.currentIndex = 1;
         box.setValue(row.value);
         compare(box.currentIndex, row.index);
@@ -87,33 +61,30 @@ TestCase {
     }
 
     function test_keys_that_open(row: var): void {
-        const box = make(_maker, {});
-        box.forceActiveFocus(Qt.TabFocusReason);
+        const box = make();
+        const opened = spy(box, "opened");
+        focusByKeyboard(box);
         keyClick(row.key, row.modifiers ?? Qt.NoModifier);
         compare(box.popup.visible, row.opens > 0);
-        if (row.opens > 0)
-            tryCompare(_opened, "count", row.opens);
+        tryCompare(opened, "count", row.opens);
         compare(box.currentIndex, 0);
     }
 
     function test_keyboard_choice(): void {
-        const box = make(_maker, {});
-        box.forceActiveFocus(Qt.TabFocusReason);
-        for (const key of [Qt.Key_Down, Qt.Key_Return, Qt.Key_Down, Qt.Key_Escape])
-            keyClick(key);
+        const box = make();
+        focusByKeyboard(box);
+        press([Qt.Key_Down, Qt.Key_Return, Qt.Key_Down, Qt.Key_Escape]);
         tryVerify(() => !box.popup.visible);
         compare(box.currentIndex, 1);
-        for (const key of [Qt.Key_Return, Qt.Key_Down, Qt.Key_Return])
-            keyClick(key);
+        press([Qt.Key_Return, Qt.Key_Down, Qt.Key_Return]);
         tryVerify(() => !box.popup.visible);
         compare(box.currentIndex, 2);
-        compare(_activated.count, 2);
+        compare(count, 2);
     }
 
     function test_choice_by_mouse(): void {
-        const box = make(_maker, {});
-        mouseClick(box);
-        tryVerify(() => box.popup.opened);
+        const box = make();
+        openByMouse(box);
         mouseClick(rowOf(box, 1));
         tryVerify(() => !box.popup.visible);
         compare(box.currentIndex, 1);
@@ -128,13 +99,11 @@ TestCase {
     }
 
     function test_keyboard_in_a_list_that_a_click_opened(row: var): void {
-        const other = createTemporaryObject(_maker, _top, { y: 100 });
-        other.forceActiveFocus(Qt.TabFocusReason);
-        const box = make(_maker, {});
-        mouseClick(box);
-        tryVerify(() => box.popup.opened);
-        for (const key of row.keys)
-            keyClick(key);
+        const other = make({ y: 100 });
+        focusByKeyboard(other);
+        const box = make();
+        openByMouse(box);
+        press(row.keys);
         tryVerify(() => !box.popup.visible);
         compare(box.currentIndex, row.index);
         compare(other.currentIndex, 0);
@@ -142,13 +111,13 @@ TestCase {
     }
 
     function test_wheel_over_a_closed_box_changes_nothing(): void {
-        const box = make(_maker, {});
+        const box = make();
         mouseWheel(box, 10, 10, 0, -120);
         compare(box.currentIndex, 0);
     }
 
     function test_dots(): void {
-        const box = make(_maker, {});
+        const box = make();
         box.popup.open();
         for (const [auto, row] of [[null, -1], ["b", 1], ["no such value", -1]]) {
             box.autoValue = auto;
@@ -159,7 +128,7 @@ TestCase {
     }
 
     function test_long_texts_stay_apart(): void {
-        const box = make(_maker, { width: 140 });
+        const box = make({ width: 140 });
         box.popup.open();
         compare(findChild(rowOf(box, 0), "secondary").text, "10 %");
         compare(findChild(rowOf(box, 1), "secondary").width, 0);
@@ -171,9 +140,8 @@ TestCase {
 
     function test_popup_stays_in_the_window_and_scrolls(): void {
         const model = Array.from({ length: 100 }, (_, index) => ({ text: `Row ${index}`, value: index }));
-        const box = make(_maker, { model: model, y: 250 });
-        mouseClick(box);
-        tryVerify(() => box.popup.opened);
+        const box = make({ model: model, y: 250 });
+        openByMouse(box);
         const list = box.popup.contentItem;
         const top = list.mapToItem(null, 0, 0).y;
         verify(top >= 0 && top + list.height <= Window.window.height, `${top}, ${list.height}`);
@@ -183,7 +151,7 @@ TestCase {
     }
 
     function test_outline_and_spinner(): void {
-        const box = make(_maker, {});
+        const box = make();
         const plain = box.background.border.color;
         box.outline = PbComboBox.Outline.Warning;
         compare(box.background.border.color, PebbleStyle.color.warningYellow);
@@ -199,10 +167,9 @@ TestCase {
     }
 
     function test_several_by_mouse(): void {
-        const box = make(_multiMaker, {});
+        const box = make({}, _multiMaker);
         compare(box.displayText, "None selected");
-        mouseClick(box);
-        tryVerify(() => box.popup.opened);
+        openByMouse(box);
         for (const index of [1, 0])
             mouseClick(rowOf(box, index));
         verify(box.popup.opened);
@@ -210,20 +177,18 @@ TestCase {
         compare(box.displayText, "Alpha, Beta");
         mouseClick(rowOf(box, 1));
         compare(parts, ["a"]);
-        compare(_activated.count, 3);
+        compare(count, 3);
         parts = ["c", "gone"];
         compare(box.currentItems, ["c", "gone"], "still bound");
         compare(box.displayText, entries[2].text);
     }
 
     function test_several_by_keyboard(): void {
-        const box = make(_multiMaker, {});
-        box.forceActiveFocus(Qt.TabFocusReason);
+        const box = make({}, _multiMaker);
+        focusByKeyboard(box);
         keyClick(Qt.Key_Down);
         tryVerify(() => box.popup.opened);
-        keyClick(Qt.Key_Space);
-        keyClick(Qt.Key_Down);
-        keyClick(Qt.Key_Return);
+        press([Qt.Key_Space, Qt.Key_Down, Qt.Key_Return]);
         verify(box.popup.opened);
         compare(parts, ["a", "b"]);
         keyClick(Qt.Key_Escape);

@@ -35,35 +35,24 @@ TestCase {
         return rows;
     }
 
-    PbText {
-        id: _text
-        text: "A link"
-    }
+    PbText { id: _text; text: "A link" }
 
-    function test_link_data(): var {
+    function test_links_and_errors_data(): var {
         return [{ tag: "dark", dark: true }, { tag: "light", dark: false }];
     }
 
-    function test_link(row: var): void {
+    // Fields tell of an error by their border, which is drawn twice as wide then.
+    function test_links_and_errors(row: var): void {
         PebbleStyle.darkMode = row.dark;
         verify(contrast(_text.linkColor, PebbleStyle.color.panelBkg) >= least);
         verify(contrast(_text.linkColor, PebbleStyle.color.pageBkg) >= least);
+        verify(contrast(PebbleStyle.color.primeRed, PebbleStyle.color.panelBkg) >= 3);
     }
 
     function test_text(row: var): void {
         PebbleStyle.darkMode = row.dark;
         const ratio = contrast(PebbleStyle.color[row.text], PebbleStyle.color[row.on]);
         verify(ratio >= least, ratio.toFixed(2));
-    }
-
-    function test_error_border_data(): var {
-        return test_link_data();
-    }
-
-    // Fields tell of an error by their border, which is drawn twice as wide then.
-    function test_error_border(row: var): void {
-        PebbleStyle.darkMode = row.dark;
-        verify(contrast(PebbleStyle.color.primeRed, PebbleStyle.color.panelBkg) >= 3);
     }
 
     function test_buttons_data(): var {

@@ -3,13 +3,9 @@ import QtTest
 import PebbleUI
 
 // The small controls: boxes, switch, scroll bar, label, note.
-TestCase {
+PebbleCase {
     id: _top
     name: "Controls"
-    when: windowShown
-    width: 400
-    height: 300
-    visible: true
 
     PbTooltipPlane {
         anchors.fill: parent
@@ -48,12 +44,8 @@ TestCase {
         PbScrollBar { id: _lying; orientation: Qt.Horizontal; size: 0.25; width: 100; barWidth: 12 }
     }
 
-    function init(): void {
-        failOnWarning(/.?/);
-    }
-
     function test_boxes_by_keyboard(): void {
-        _check.forceActiveFocus(Qt.TabFocusReason);
+        focusByKeyboard(_check);
         for (const box of [_check, _radio, _switch]) {
             verify(box.visualFocus);
             const ring = box.indicator.children.find(child => child instanceof PbFocusRing);

@@ -2,13 +2,11 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "Dialogs"
-    when: windowShown
     width: 500
     height: 400
-    visible: true
 
     property var pressed: []
 
@@ -27,14 +25,8 @@ TestCase {
             { type: PbButton.Type.Primary, text: "Yes", enabled: _top.allowed, onClicked: () => _top.pressed.push("yes") },
         ]
 
-        PbTextField {
-            id: _field
-        }
-
-        PbCheckBox {
-            id: _box
-            text: "Don't ask again"
-        }
+        PbTextField { id: _field }
+        PbCheckBox { id: _box; text: "Don't ask again" }
     }
 
     PbDialog {
@@ -44,20 +36,10 @@ TestCase {
 
     property bool allowed: true
 
-    SignalSpy {
-        id: _accepted
-        target: _plain
-        signalName: "accepted"
-    }
+    SignalSpy { id: _accepted; target: _plain; signalName: "accepted" }
+    SignalSpy { id: _rejected; target: _dialog; signalName: "rejected" }
 
-    SignalSpy {
-        id: _rejected
-        target: _dialog
-        signalName: "rejected"
-    }
-
-    function init(): void {
-        failOnWarning(/.?/);
+    function reset(): void {
         allowed = true;
         pressed = [];
         _rejected.clear();
@@ -98,11 +80,11 @@ TestCase {
             { tag: "Enter too", keys: [Qt.Key_Enter], pressed: ["yes"], rejected: 0 },
             { tag: "the focused button goes first", focus: "No", keys: [R], pressed: ["no"], rejected: 0 },
             { tag: "Escape rejects", keys: [E], pressed: [], rejected: 1 },
-            { tag: "a field takes the first Return", focus: "field", keys: [R], pressed: [], rejected: 0 },
-            { tag: "and the dialog the second", focus: "field", keys: [R, R], pressed: ["yes"], rejected: 0 },
-            { tag: "a field takes the first Escape", focus: "field", keys: [E], pressed: [], rejected: 0 },
-            { tag: "and the dialog the second Escape", focus: "field", keys: [E, E], pressed: [], rejected: 1 },
-            { tag: "Return on a check box is the dialog's", focus: "box", keys: [R], pressed: ["yes"], rejected: 0 },
+            { tag: "a field takes the first Return", focus: _field, keys: [R], pressed: [], rejected: 0 },
+            { tag: "and the dialog the second", focus: _field, keys: [R, R], pressed: ["yes"], rejected: 0 },
+            { tag: "a field takes the first Escape", focus: _field, keys: [E], pressed: [], rejected: 0 },
+            { tag: "and the dialog the second Escape", focus: _field, keys: [E, E], pressed: [], rejected: 1 },
+            { tag: "Return on a check box is the dialog's", focus: _box, keys: [R], pressed: ["yes"], rejected: 0 },
             { tag: "a disabled default is passed over, and never for what destroys", disabled: true, keys: [R], pressed: ["no"], rejected: 0 },
         ];
     }
@@ -110,14 +92,9 @@ TestCase {
     function test_keys(row: var): void {
         allowed = !row.disabled;
         show(_dialog);
-        if (row.focus === "field")
-            _field.forceActiveFocus(Qt.TabFocusReason);
-        else if (row.focus === "box")
-            _box.forceActiveFocus(Qt.TabFocusReason);
-        else if (row.focus)
-            findButton(row.focus).forceActiveFocus(Qt.TabFocusReason);
-        for (const key of row.keys)
-            keyClick(key);
+        if (row.focus)
+            focusByKeyboard(row.focus instanceof Item ? row.focus : findButton(row.focus));
+        press(row.keys);
         compare(pressed, row.pressed);
         compare(_rejected.count, row.rejected);
         compare(_dialog.opened, row.rejected === 0);
@@ -130,7 +107,7 @@ TestCase {
 
     function test_Tab_goes_round_in_order(): void {
         show(_dialog);
-        _field.forceActiveFocus(Qt.TabFocusReason);
+        focusByKeyboard(_field);
         const order = ["field", "Don't ask again", "Delete", "No", "Yes", "Close"];
         for (const name of order.concat(order)) {
             compare(focusName(), name);
@@ -143,7 +120,7 @@ TestCase {
     function test_a_changed_entry_keeps_the_focus(): void {
         show(_dialog);
         compare(focusName(), "Yes");
-        findButton("No").forceActiveFocus(Qt.TabFocusReason);
+        focusByKeyboard(findButton("No"));
         allowed = false;
         compare(focusName(), "No");
     }
@@ -167,7 +144,7 @@ TestCase {
         const message = findChild(_plain.contentItem, "message");
         waitForPolish(_top.Window.window);
         verify(message.height < message.contentHeight);
-        message.forceActiveFocus(Qt.TabFocusReason);
+        focusByKeyboard(message);
         keyClick(Qt.Key_Up);
         compare(message.contentY, 0);
         keyClick(Qt.Key_PageDown);

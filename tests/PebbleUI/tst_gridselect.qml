@@ -2,13 +2,10 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "GridSelect"
-    when: windowShown
-    width: 400
-    height: 300
-    visible: true
+    spied: "activated"
 
     property int chosen: 0
 
@@ -23,8 +20,7 @@ TestCase {
         { text: "Seven with a name much too long for it", value: 7, showAuto: true },
     ]
 
-    Component {
-        id: _maker
+    maker: Component {
         PbGridSelect {
             width: 300
             column: 3
@@ -34,18 +30,8 @@ TestCase {
         }
     }
 
-    SignalSpy { id: _activated; signalName: "activated" }
-
-    function init(): void {
-        failOnWarning(/.?/);
+    function reset(): void {
         chosen = 0;
-    }
-
-    function make(properties: var): PbGridSelect {
-        const grid = createTemporaryObject(_maker, _top, properties ?? {});
-        _activated.target = grid;
-        _activated.clear();
-        return grid;
     }
 
     function optionsOf(grid: PbGridSelect): var {
@@ -73,7 +59,7 @@ TestCase {
         compare(chosen, 2);
         mouseClick(options[4]);
         compare(chosen, 2, "disabled");
-        compare(_activated.count, 1);
+        compare(count, 1);
         chosen = 5;
         compare(grid.selectedItem, 5, "still bound");
         compare(options.findIndex(option => option.selected), 5);
@@ -107,7 +93,7 @@ TestCase {
 
     function test_arrows(row: var): void {
         const options = optionsOf(make());
-        options[row.from].forceActiveFocus(Qt.TabFocusReason);
+        focusByKeyboard(options[row.from]);
         keyClick(row.key);
         verify(options[row.to].visualFocus);
         compare(chosen, 0, "arrows move the keyboard only");

@@ -2,42 +2,14 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "LabeledSlider"
-    when: windowShown
-    width: 400
-    height: 200
-    visible: true
-
-    Component {
-        id: _maker
-        PbLabeledSlider { text: "Strength" }
-    }
-
-    SignalSpy {
-        id: _moved
-        signalName: "moved"
-    }
-
-    function init(): void {
-        failOnWarning(/.?/);
-    }
+    maker: Component { PbLabeledSlider { text: "Strength" } }
+    spied: "moved"
 
     function cleanup(): void {
         PebbleStyle.darkMode = true;
-    }
-
-    function make(properties: var): PbLabeledSlider {
-        const made = createTemporaryObject(_maker, _top, properties);
-        _moved.target = made;
-        _moved.clear();
-        return made;
-    }
-
-    function type(text: string): void {
-        for (const letter of text)
-            keyClick(letter);
     }
 
     function test_typing_data(): var {
@@ -59,7 +31,7 @@ TestCase {
         const slider = make(row.now);
         mouseClick(slider.textField);
         compare(slider.textField.selectedText, slider.textField.text);
-        type(row.keys);
+        press(row.keys);
         compare(slider.value, row.during);
         compare(slider.textField.text, row.text);
         keyClick(Qt.Key_Escape);
@@ -74,14 +46,14 @@ TestCase {
         slider.value = 3;
         keyClick(Qt.Key_Right);
         compare(slider.textField.text, "3.01");
-        compare(_moved.count, 1);
+        compare(count, 1);
     }
 
     function test_value_between_steps_is_not_written_back(): void {
         const slider = make({ value: 37.2 });
         compare(slider.textField.text, "37");
         compare(slider.value, 37.2);
-        compare(_moved.count, 0);
+        compare(count, 0);
     }
 
     function test_arrows_stop_at_the_ends(): void {
@@ -99,7 +71,7 @@ TestCase {
         const slider = make({ value: 50, defaultValue: 20, autoValue: 70 });
         mouseDoubleClickSequence(slider.label, 5, 5);
         compare(slider.value, 20);
-        compare(_moved.count, 1);
+        compare(count, 1);
     }
 
     function test_dot_data(): var {

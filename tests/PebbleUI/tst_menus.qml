@@ -3,13 +3,11 @@ import QtQuick.Controls.Fusion
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "Menus"
-    when: windowShown
     width: 600
     height: 400
-    visible: true
 
     property var chosen: []
 
@@ -90,12 +88,9 @@ TestCase {
         }
     }
 
-    PbMnemonic {
-        id: _mnemonic
-    }
+    PbMnemonic { id: _mnemonic }
 
-    function init(): void {
-        failOnWarning(/.?/);
+    function reset(): void {
         chosen = [];
         mouseMove(_top, 599, 399);
     }

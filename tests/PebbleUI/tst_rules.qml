@@ -7,14 +7,8 @@ TestCase {
     id: _top
     name: "Rules"
 
-    PbDoublePress {
-        id: _presses
-        interval: 400
-    }
-
-    PbNumberText {
-        id: _numbers
-    }
+    PbDoublePress { id: _presses; interval: 400 }
+    PbNumberText { id: _numbers }
 
     PbSliderRules {
         id: _slider

@@ -2,13 +2,13 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "SectionedComboBox"
-    when: windowShown
     width: 400
     height: 400
-    visible: true
+    maker: Component { PbSectionedComboBox { model: _top.entries } }
+    spied: "activated"
 
     // Sections at both ends, two in a row, and a rule.
     readonly property list<var> entries: [
@@ -20,29 +20,6 @@ TestCase {
         { text: "Again and again", value: "c" },
         { section: true, text: "Last" },
     ]
-
-    Component {
-        id: _maker
-        PbSectionedComboBox { model: _top.entries }
-    }
-
-    SignalSpy { id: _activated; signalName: "activated" }
-
-    function init(): void {
-        failOnWarning(/.?/);
-    }
-
-    function make(properties: var): PbSectionedComboBox {
-        const box = createTemporaryObject(_maker, _top, properties ?? {});
-        _activated.target = box;
-        _activated.clear();
-        return box;
-    }
-
-    function rowOf(box: PbSectionedComboBox, index: int): Item {
-        box.popup.contentItem.forceLayout();
-        return box.popup.contentItem.itemAtIndex(index);
-    }
 
     function test_resting_place_data(): var {
         return [
@@ -88,8 +65,8 @@ TestCase {
             { tag: "up at the start", from: 1, key: up, to: 1 },
             { tag: "Home", from: 5, key: home, to: 1 },
             { tag: "End", from: 1, key: end, to: 5 },
-            { tag: "a letter passes the section of that name", from: 1, key: Qt.Key_A, to: 5 },
-            { tag: "a letter goes round", from: 5, key: Qt.Key_A, to: 1 },
+            { tag: "a letter passes the section of that name", from: 1, key: "a", to: 5 },
+            { tag: "a letter goes round", from: 5, key: "a", to: 1 },
         ];
     }
 
@@ -97,30 +74,26 @@ TestCase {
         for (const open of [false, true]) {
             const box = make();
             box.setIndex(row.from);
-            box.forceActiveFocus(Qt.TabFocusReason);
+            focusByKeyboard(box);
             if (open) {
                 keyClick(Qt.Key_Return);
                 tryVerify(() => box.popup.opened);
             }
-            if (row.key === Qt.Key_A)
-                keyClick("a");
-            else
-                keyClick(row.key);
+            keyClick(row.key);
             compare(open ? box.highlightedIndex : box.currentIndex, row.to);
             if (open) {
                 keyClick(Qt.Key_Return);
                 tryVerify(() => !box.popup.visible);
             }
             compare(box.currentIndex, row.to);
-            compare(_activated.count, row.from === row.to && !open ? 0 : 1);
+            compare(count, row.from === row.to && !open ? 0 : 1);
             box.destroy();
         }
     }
 
     function test_mouse_chooses_rows_only(): void {
         const box = make();
-        mouseClick(box);
-        tryVerify(() => box.popup.opened);
+        openByMouse(box);
         for (const index of [0, 2, 3, 6])
             mouseClick(rowOf(box, index));
         compare(box.currentIndex, 1);

@@ -2,13 +2,9 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "Slider"
-    when: windowShown
-    width: 300
-    height: 200
-    visible: true
 
     QtObject {
         id: _model
@@ -29,20 +25,10 @@ TestCase {
         }
     }
 
-    SignalSpy {
-        id: _finished
-        target: _slider
-        signalName: "editingFinished"
-    }
+    SignalSpy { id: _finished; target: _slider; signalName: "editingFinished" }
+    SignalSpy { id: _moved; target: _slider; signalName: "moved" }
 
-    SignalSpy {
-        id: _moved
-        target: _slider
-        signalName: "moved"
-    }
-
-    function init(): void {
-        failOnWarning(/.?/);
+    function reset(): void {
         wait(PebbleStyle.time.doublePress + 20);
         _model.strength = 40.5;
         _model.strength = 40;
@@ -55,12 +41,8 @@ TestCase {
         _moved.clear();
     }
 
-    function pressHandle(): void {
-        mousePress(_slider, _slider.handle.x + 6, _slider.height / 2);
-    }
-
-    function releaseHandle(): void {
-        mouseRelease(_slider, _slider.handle.x + 6, _slider.height / 2);
+    function atHandle(event: var): void {
+        event(_slider, _slider.handle.x + 6, _slider.height / 2);
     }
 
     function test_default_is_the_first_value(): void {
@@ -79,24 +61,24 @@ TestCase {
 
     function test_double_press(row: var): void {
         _slider.autoValue = row.auto;
-        pressHandle();
-        releaseHandle();
+        atHandle(mousePress);
+        atHandle(mouseRelease);
         wait(row.gap);
-        pressHandle();
+        atHandle(mousePress);
         compare(_slider.value, row.value);
         // A second press within the time is consumed: moving on does not drag the handle.
         if (row.value !== 40) {
             mouseMove(_slider, 150, 8, 10, Qt.LeftButton);
             compare(_slider.value, row.value);
         }
-        releaseHandle();
+        atHandle(mouseRelease);
         verify(_finished.count >= 2);
         _model.strength = 55;
         compare(_slider.value, 55, "the binding still holds");
     }
 
     function test_first_press_drags_at_once(): void {
-        pressHandle();
+        atHandle(mousePress);
         mouseMove(_slider, 156, 8, -1, Qt.LeftButton);
         compare(_slider.value, 75);
         compare(_finished.count, 0);
@@ -115,7 +97,7 @@ TestCase {
     }
 
     function test_keys(row: var): void {
-        _slider.forceActiveFocus(Qt.TabFocusReason);
+        focusByKeyboard(_slider);
         keyClick(row.key);
         compare(_slider.value, row.value);
         compare(_finished.count, 1);

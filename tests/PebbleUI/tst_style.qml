@@ -2,30 +2,13 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "Style"
-    when: windowShown
-    width: 100
-    height: 100
-    visible: true
 
-    PbIcon {
-        id: _icon
-        size: 32
-    }
-
-    PbBusySpinner {
-        id: _spinner
-    }
-
-    BaseTheme {
-        id: _base
-    }
-
-    function init(): void {
-        failOnWarning(/.?/);
-    }
+    PbIcon { id: _icon; size: 32 }
+    PbBusySpinner { id: _spinner }
+    BaseTheme { id: _base }
 
     function roles(set: QtObject): var {
         return Object.keys(set).filter(name => typeof set[name] === "object" && name !== "objectName"

@@ -2,18 +2,11 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "TextField"
-    when: windowShown
-    width: 400
-    height: 200
-    visible: true
-
-    Component {
-        id: _maker
-        PbTextField {}
-    }
+    maker: Component { PbTextField {} }
+    spied: "accepted"
 
     Component {
         id: _labeledMaker
@@ -23,22 +16,6 @@ TestCase {
             valueType: PbTextField.Type.Integer
             value: "1200"
         }
-    }
-
-    SignalSpy {
-        id: _accepted
-        signalName: "accepted"
-    }
-
-    function init(): void {
-        failOnWarning(/.?/);
-    }
-
-    function make(properties: var): PbTextField {
-        const field = createTemporaryObject(_maker, _top, properties);
-        _accepted.target = field;
-        _accepted.clear();
-        return field;
     }
 
     function test_leaving_data(): var {
@@ -58,18 +35,13 @@ TestCase {
     }
 
     function test_leaving(row: var): void {
-        const field = make({ type: row.type, text: "40", validateInput: t => !t.includes("13") });
-        if (row.keep)
-            field.resetOnError = false;
         make({ y: 60 }); // somewhere for Tab to go
-        _accepted.target = field;
-        field.forceActiveFocus(Qt.TabFocusReason);
-        for (const letter of row.typed)
-            keyClick(letter);
-        keyClick(row.key);
+        const field = make({ type: row.type, text: "40", validateInput: t => !t.includes("13"), resetOnError: !row.keep });
+        focusByKeyboard(field);
+        press([...row.typed, row.key]);
         compare(field.activeFocus, !row.leaves);
         compare(field.text, row.after);
-        compare(_accepted.count, row.accepts);
+        compare(count, row.accepts);
     }
 
     function test_stepping_data(): var {
@@ -119,7 +91,7 @@ TestCase {
         if (row.mouse)
             mouseClick(field);
         else
-            field.forceActiveFocus(Qt.TabFocusReason);
+            focusByKeyboard(field);
         verify(field.activeFocus);
         compare(field.selectedText, row.selected);
     }
@@ -164,8 +136,7 @@ TestCase {
         const field = make({ type: PbTextField.Type.Real, text: "12" });
         field.forceActiveFocus();
         field.select(1, 2);
-        for (const key of [",", "5"])
-            keyClick(key);
+        press([",", "5"]);
         compare(field.text, "1.5");
     }
 

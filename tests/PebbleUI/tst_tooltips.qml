@@ -2,31 +2,15 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "Tooltips"
-    when: windowShown
     width: 600
     height: 400
-    visible: true
 
-    PbTipPlacement {
-        id: _placement
-    }
-
-    Rectangle {
-        id: _target
-        width: 40
-        height: 20
-    }
-
-    Item {
-        id: _elsewhere
-        x: 7
-        y: 9
-        width: 100
-        height: 50
-    }
+    PbTipPlacement { id: _placement }
+    Rectangle { id: _target; width: 40; height: 20 }
+    Item { id: _elsewhere; x: 7; y: 9; width: 100; height: 50 }
 
     PbButton {
         id: _button
@@ -47,30 +31,10 @@ TestCase {
         tooltip.plane: _plane
     }
 
-    PbHoverTip {
-        id: _homeless
-        parent: _target
-        plane: null
-    }
+    PbHoverTip { id: _homeless; parent: _target; plane: null }
+    PbTooltipPlane { id: _plane; anchors.fill: parent }
 
-    PbTooltipPlane {
-        id: _plane
-        anchors.fill: parent
-    }
-
-    Component {
-        id: _mortal
-
-        Rectangle {
-            x: 200
-            y: 200
-            width: 10
-            height: 10
-        }
-    }
-
-    function init(): void {
-        failOnWarning(/.?/);
+    function reset(): void {
         mouseMove(_top, 599, 399);
         _top.forceActiveFocus();
         _plane.hideCurrentTip();
@@ -173,7 +137,7 @@ TestCase {
     }
 
     function test_a_tip_goes_with_its_target(): void {
-        const target = _mortal.createObject(_top);
+        const target = createTemporaryQmlObject("import QtQuick; Item {}", _top);
         _plane.showTip({ target: target, text: "soon gone" });
         target.destroy();
         tryCompare(_plane, "currentTip", null);
@@ -210,7 +174,7 @@ TestCase {
     }
 
     function test_keyboard_focus_shows_it_and_a_click_passes(): void {
-        _button.forceActiveFocus(Qt.TabFocusReason);
+        focusByKeyboard(_button);
         compare(_plane.currentTip?.text, "Cuts the picture");
         _top.forceActiveFocus();
         compare(_plane.currentTip, null);

@@ -2,13 +2,11 @@ import QtQuick
 import QtTest
 import PebbleUI
 
-TestCase {
+PebbleCase {
     id: _top
     name: "Window"
-    when: windowShown
     width: 700
     height: 100
-    visible: true
 
     PbWindowHeader {
         id: _header
@@ -39,8 +37,7 @@ TestCase {
         }
     }
 
-    function init(): void {
-        failOnWarning(/.?/);
+    function reset(): void {
         _header.titleItem = null;
     }
 

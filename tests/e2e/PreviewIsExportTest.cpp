@@ -18,11 +18,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSizeF View{70, 52};
+constexpr QSizeF View{47, 35};
 
 /// A photograph-like picture: shades, edges, grain; alpha where the format has it.
 QString picture(const QString &path, QImage::Format format) {
-    QImage image(151, 113, format);
+    QImage image(101, 77, format);
     QRandomGenerator random(11);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
@@ -50,14 +50,6 @@ const std::vector<Look> &looks() {
     };
     return all;
 }
-
-struct Format {
-    const char *name;
-    const char *file;
-    QImage::Format format;
-};
-constexpr Format formats[] = {{"rgb 8", "shallow.png", QImage::Format_RGB888},
-                              {"rgba 16", "deep.png", QImage::Format_RGBA64}};
 
 class PreviewIsExport : public testing::Test {
 protected:
@@ -87,28 +79,26 @@ protected:
 
 } // namespace
 
+/// In 16 bit, which shows the smallest difference.
 TEST_F(PreviewIsExport, EveryModel) {
-    for (const Format &format : formats) {
-        const QString path = picture(folder.filePath(QLatin1String(format.file)), format.format);
-        PreviewStudio studio(path), fresh(path);
-        ASSERT_FALSE(studio.catalogue().isEmpty());
-        const QVariantMap catalogue = studio.catalogue();
-        for (auto category = catalogue.begin(); category != catalogue.end(); ++category) {
-            for (const QString &model : category->toMap().keys()) {
-                SCOPED_TRACE(std::string(format.name) + ", " + (category.key() + u'/' + model).toStdString());
-                for (PreviewStudio *each : {&studio, &fresh}) {
-                    each->clear();
-                    each->add(category.key(), category.key(), model);
-                }
-                compare(studio, fresh);
+    const QString path = picture(folder.filePath(u"deep.png"_s), QImage::Format_RGBA64);
+    PreviewStudio studio(path), fresh(path);
+    ASSERT_FALSE(studio.catalogue().isEmpty());
+    for (const auto &[category, models] : studio.catalogue().asKeyValueRange()) {
+        for (const QString &model : models.toMap().keys()) {
+            SCOPED_TRACE((category + u'/' + model).toStdString());
+            for (PreviewStudio *each : {&studio, &fresh}) {
+                each->clear();
+                each->add(category, category, model);
             }
+            compare(studio, fresh);
         }
     }
 }
 
-/// One filter of each kind in a row, each time with other models.
+/// One filter of each category in a row, each time with other models, in 8 bit.
 TEST_F(PreviewIsExport, Stacks) {
-    const QString path = picture(folder.filePath(u"deep.png"_s), QImage::Format_RGBA64);
+    const QString path = picture(folder.filePath(u"shallow.png"_s), QImage::Format_RGB888);
     PreviewStudio studio(path), fresh(path);
     const QVariantMap catalogue = studio.catalogue();
     for (int row = 0; row < 3; ++row) {
@@ -148,7 +138,7 @@ TEST_F(PreviewIsExport, WrittenFile) {
                          {});
         ASSERT_TRUE(QTest::qWaitFor([&] { return saved.size() + failed.size() > 0; }, 60000));
         ASSERT_EQ(failed.size(), 0) << failed[0][1].toString().toStdString();
-        QVariantMap written = PreviewStudio(out).input();
+        QVariantMap written = PreviewStudio::read(out);
         written[u"requestRoi"_s] = result[u"requestRoi"_s];
         EXPECT_EQ(differenceOf(seen, written), "");
     }

@@ -17,6 +17,12 @@ std::shared_ptr<ImageData> imageOf(const QVariantMap &map) {
     return map.value(u"image"_s).value<std::shared_ptr<ImageData>>();
 }
 
+void load(TImageReader &reader, const QString &file) {
+    reader.setFilepath(file);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !reader.loading(); }, PatienceMs));
+    EXPECT_EQ(reader.error(), QString());
+}
+
 } // namespace
 
 PreviewStudio::PreviewStudio(const QString &picture) {
@@ -24,11 +30,15 @@ PreviewStudio::PreviewStudio(const QString &picture) {
                      [this] { m_controls.setModelParamInfo(m_engine.modelParamInfo()); });
     m_engine.setModelDirectory(QStringLiteral(ORVANE_MODELS));
     m_controls.loadImages({picture});
-    m_reader.setFilepath(picture);
-    EXPECT_TRUE(
-        QTest::qWaitFor([this] { return !m_reader.loading() && !catalogue().isEmpty(); }, PatienceMs));
-    EXPECT_EQ(m_reader.error(), QString());
+    load(m_reader, picture);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !catalogue().isEmpty(); }, PatienceMs));
     m_engine.setInputImage(m_reader.imagedata());
+}
+
+QVariantMap PreviewStudio::read(const QString &file) {
+    TImageReader reader;
+    load(reader, file);
+    return reader.imagedata();
 }
 
 QSize PreviewStudio::size() const {

@@ -29,6 +29,8 @@ public:
     QSize size() const;
     QVariantMap catalogue() const { return m_engine.modelParamInfo(); }
     QVariantMap input() const { return m_reader.imagedata(); }
+    /// A file as the reader gives it.
+    static QVariantMap read(const QString &file);
 
 private:
     QVariantMap run(const QRectF &region);

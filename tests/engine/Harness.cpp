@@ -163,6 +163,16 @@ Engine::Engine(const EngineOptions &options, const QString &models)
     catalogue = backend->catalogue(models);
 }
 
+QVariantMap rangesOf(const QVariantMap &catalogue, const QString &category, const QString &model) {
+    return catalogue[category].toMap()[model].toMap()[u"gui"_s].toMap()[u"parameters"_s].toMap();
+}
+
+Engine &shippedEngine() {
+    static Engine engine;
+    engine.backend->clearCache({});
+    return engine;
+}
+
 ProcRequest Engine::request(const ImageRef &image) {
     ProcRequest request;
     request.input.uid = QString::number(quintptr(image.get())); // measured once by each engine
@@ -197,11 +207,10 @@ ProcResult Engine::run(const ImageRef &image, const QString &category, const QSt
 
 std::vector<ModelCase> everyModel(const QVariantMap &catalogue) {
     std::vector<ModelCase> cases;
-    for (auto category = catalogue.begin(); category != catalogue.end(); ++category) {
-        const QVariantMap models = category->toMap();
-        for (auto model = models.begin(); model != models.end(); ++model) {
-            ModelCase one{category.key(), model.key(), {}};
-            const QVariantMap parameters = model->toMap()[u"gui"_s].toMap()[u"parameters"_s].toMap();
+    for (const auto &[category, models] : catalogue.asKeyValueRange()) {
+        for (const QString &model : models.toMap().keys()) {
+            ModelCase one{category, model, {}};
+            const QVariantMap parameters = rangesOf(catalogue, category, model);
             for (auto p = parameters.begin(); p != parameters.end(); ++p) {
                 const QVariantMap range = p->toMap();
                 one.params[p.key()] =

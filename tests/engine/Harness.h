@@ -66,6 +66,13 @@ struct Engine {
     QVariantMap catalogue;
 };
 
+/// One engine with the shipped models for all tests without options of their own: its networks are loaded
+/// once. Its cache is empty when it is handed out.
+Engine &shippedEngine();
+
+/// A model's parameters: each one's default, min and max.
+QVariantMap rangesOf(const QVariantMap &catalogue, const QString &category, const QString &model);
+
 /// A model of the shipped catalogue with every parameter in the middle of its range, scaled up
 /// where it can be.
 struct ModelCase {

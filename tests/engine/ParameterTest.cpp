@@ -6,18 +6,16 @@
 
 using namespace Qt::StringLiterals;
 
-/// Each slider changes the picture more the further it is moved, and at its least all but not at all.
+/// Each slider changes the picture more the further it is moved, and at its least all but not at all. The
+/// middle is where all sliders of a model rest, so that one picture serves them all.
 TEST(Parameters, MonotoneForEveryModel) {
-    Engine engine;
-    const auto clean = Pictures::scene(112, 96);
+    Engine &engine = shippedEngine();
+    const auto clean = Pictures::scene(72, 56);
     const auto image = Pictures::changed(*Pictures::noisy(*Pictures::blurred(*clean, 0.8), 7),
                                          [](double v, int, int, int c) { return v * (0.75 - 0.12 * c); });
     for (const ModelCase &model : everyModel(engine.catalogue)) {
-        const QVariantMap ranges = engine.catalogue[model.category]
-                                       .toMap()[model.model]
-                                       .toMap()[u"gui"_s]
-                                       .toMap()[u"parameters"_s]
-                                       .toMap();
+        const QVariantMap ranges = rangesOf(engine.catalogue, model.category, model.model);
+        const auto middle = engine.run(image, model.category, model.model, model.params).image;
         for (auto it = ranges.begin(); it != ranges.end(); ++it) {
             const QVariantMap range = it->toMap();
             if (!range.contains(u"max"_s) || it.key() == u"temperature"_s)
@@ -35,13 +33,11 @@ TEST(Parameters, MonotoneForEveryModel) {
             } else {
                 EXPECT_GT(Pictures::difference(*at(least), *off), 0.5);
             }
-            double before = 0;
-            for (const double share : {0.25, 0.5, 0.75, 1.0}) {
-                const double moved = Pictures::difference(*at(share * most), *off);
-                EXPECT_GT(moved, before) << "at " << share * most;
-                before = moved;
-            }
-            EXPECT_GT(before, 0.25) << "the slider does next to nothing";
+            const double half = Pictures::difference(*middle, *off);
+            const double full = Pictures::difference(*at(most), *off);
+            EXPECT_GT(half, 0);
+            EXPECT_GT(full, half);
+            EXPECT_GT(full, 0.25) << "the slider does next to nothing";
         }
     }
 }
@@ -75,8 +71,8 @@ TEST(Parameters, ReadWhateverComes) {
         {"another word", u"perhaps"_s, {}, true},
         {"no value", QVariant(), false, false},
     };
-    Engine engine;
-    const auto image = Pictures::noisy(*Pictures::scene(80, 60), 12);
+    Engine &engine = shippedEngine();
+    const auto image = Pictures::noisy(*Pictures::scene(40, 30), 12);
     const auto check = [&](const Row &row, const QString &category, const QString &model, const QString &name,
                            QVariantMap params) {
         SCOPED_TRACE(row.name);

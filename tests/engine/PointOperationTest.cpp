@@ -41,7 +41,7 @@ TEST(PointOperations, Table) {
         {"warm", u"White Balance Adjust"_s, {{u"temperature"_s, 1.0}}},
         {"cool, half", u"White Balance Adjust"_s, {{u"temperature"_s, 0.01}, {u"strength"_s, 0.5}}},
     };
-    Engine engine;
+    Engine &engine = shippedEngine();
     for (const Row &row : rows) {
         for (const Pictures::Format &format : Pictures::formats) {
             SCOPED_TRACE(std::string(row.name) + ", " + format.name);
@@ -91,7 +91,7 @@ TEST(PointOperations, SlidersGoTheirWay) {
         {"warmth", 1, u"White Balance Adjust"_s, u"temperature"_s, temperatures,
          [](const Means &m) { return m[0] / m[2]; }},
     };
-    Engine engine;
+    Engine &engine = shippedEngine();
     const auto scene = Pictures::scene(96, 64);
     for (const Row &row : rows) {
         const auto image =

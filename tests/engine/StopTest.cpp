@@ -21,8 +21,9 @@ constexpr auto Patience = std::chrono::seconds(1);
 
 /// A stop is answered at once, in the middle of a heavy tile, too.
 TEST(Stop, AnsweredAtOnceByEveryModel) {
-    Engine engine;
+    Engine &engine = shippedEngine();
     const auto image = Pictures::scene(1200, 900);
+    int tooLate = 0;
     for (ModelCase model : everyModel(engine.catalogue)) {
         if (model.category == u"Enhance"_s)
             model.params[u"scale"_s] = 2;
@@ -46,11 +47,11 @@ TEST(Stop, AnsweredAtOnceByEveryModel) {
         const auto asked = Clock::now();
         source.request_stop();
         runner.join();
-        if (result.image)
-            continue; // was done before it could be stopped
-        EXPECT_TRUE(result.cancelled) << model.label();
+        tooLate += result.image ? 1 : 0;
+        EXPECT_NE(bool(result.image), result.cancelled) << model.label();
         EXPECT_LT(ended - asked, Patience) << model.label();
     }
+    EXPECT_LE(tooLate, 2) << "only what looks at single pixels may be done before it can be stopped";
 }
 
 TEST(Stop, BeforeItBegins) {
@@ -58,7 +59,7 @@ TEST(Stop, BeforeItBegins) {
     source.request_stop();
     RunControl control;
     control.stop = source.get_token();
-    Engine engine;
+    Engine &engine = shippedEngine();
     ProcRequest request = Engine::request(Pictures::scene(50, 50));
     EXPECT_TRUE(engine.run(request, control).cancelled);
     EXPECT_TRUE(engine.backend->analyse(request.input, {}, control).cancelled);

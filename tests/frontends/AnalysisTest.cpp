@@ -1,7 +1,4 @@
-#include "frontends/TEngineController.h"
-#include "tests/fakes/FakeEngine.h"
-
-#include "Support.h"
+#include "ControllerTest.h"
 
 #include <QSignalSpy>
 #include <QTemporaryFile>
@@ -13,27 +10,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Analysis : public testing::Test {
+class Analysis : public ControllerTest {
 protected:
-    Analysis() {
-        auto backend = std::make_unique<FakeEngine>();
-        engine = backend.get();
-        controller = std::make_unique<TEngineController>(std::move(backend));
-        finished = std::make_unique<QSignalSpy>(controller.get(), &TEngineController::autoPilotFinished);
-        problems = std::make_unique<QSignalSpy>(controller.get(), &TEngineController::autoProblemsUpdated);
-    }
-
     QStringList steps() const {
         QStringList steps;
-        for (const auto &arguments : *problems)
+        for (const auto &arguments : problems)
             steps << arguments.at(1).toMap().value(u"currentStep"_s).toString();
         return steps;
     }
 
-    FakeEngine *engine = nullptr;
-    std::unique_ptr<TEngineController> controller;
-    std::unique_ptr<QSignalSpy> finished;
-    std::unique_ptr<QSignalSpy> problems;
+    QSignalSpy finished{controller.get(), &TEngineController::autoPilotFinished};
+    QSignalSpy problems{controller.get(), &TEngineController::autoProblemsUpdated};
 };
 
 TEST_F(Analysis, AnswersWithUidSettingsAndProblems) {
@@ -48,11 +35,11 @@ TEST_F(Analysis, AnswersWithUidSettingsAndProblems) {
     controller->setFaceStrength(17);
     controller->autoPilot(imageMap(), {{u"regenerateMask"_s, true}});
     controller->setFaceStrength(18);
-    ASSERT_TRUE(finished->wait());
-    EXPECT_EQ(finished->at(0).at(0).toString(), u"/pictures/a.jpg#1"_s);
-    EXPECT_TRUE(finished->at(0).at(1).toMap().contains(u"Denoise"_s));
+    ASSERT_TRUE(finished.wait());
+    EXPECT_EQ(finished.at(0).at(0).toString(), u"/pictures/a.jpg#1"_s);
+    EXPECT_TRUE(finished.at(0).at(1).toMap().contains(u"Denoise"_s));
     EXPECT_EQ(steps(), QStringList({u"faces"_s, u"done"_s}));
-    EXPECT_EQ(problems->back().at(1).toMap().value(u"faceCount"_s).toInt(), 2);
+    EXPECT_EQ(problems.back().at(1).toMap().value(u"faceCount"_s).toInt(), 2);
     const AutopilotOptions options = engine->analyses().front().second;
     EXPECT_TRUE(options.regenerateMask);
     EXPECT_FALSE(options.forceFaceDetect);
@@ -66,10 +53,10 @@ TEST_F(Analysis, NewestRequestAloneAnswers) {
         eventually([this] { return !engine->analyses().empty(); });
     }
     engine->analysisHold.open();
-    ASSERT_TRUE(finished->wait());
+    ASSERT_TRUE(finished.wait());
     settle();
-    ASSERT_EQ(finished->size(), 1);
-    EXPECT_EQ(finished->at(0).at(0).toString(), u"/c#1"_s);
+    ASSERT_EQ(finished.size(), 1);
+    EXPECT_EQ(finished.at(0).at(0).toString(), u"/c#1"_s);
 }
 
 TEST_F(Analysis, RunsBesideProcessingAndSurvivesItsCancelling) {
@@ -82,7 +69,7 @@ TEST_F(Analysis, RunsBesideProcessingAndSurvivesItsCancelling) {
     controller->cancelProc();
     ASSERT_TRUE(canceled.wait());
     engine->analysisHold.open();
-    EXPECT_TRUE(finished->wait());
+    EXPECT_TRUE(finished.wait());
 }
 
 TEST_F(Analysis, FailureAnswersWithEmptySettings) {
@@ -95,12 +82,12 @@ TEST_F(Analysis, FailureAnswersWithEmptySettings) {
          {Row{"engine's error", {.error = u"No face model."_s}, imageMap()},
           Row{"stopped by itself", {.cancelled = true}, imageMap()}, Row{"no picture", {}, {}}}) {
         SCOPED_TRACE(row.name);
-        finished->clear();
+        finished.clear();
         engine->advice = row.answer;
         engine->advice.settings = {{u"Denoise"_s, true}};
         controller->autoPilot(row.image);
-        ASSERT_TRUE(finished->wait());
-        EXPECT_TRUE(finished->at(0).at(1).toMap().isEmpty());
+        ASSERT_TRUE(finished.wait());
+        EXPECT_TRUE(finished.at(0).at(1).toMap().isEmpty());
         EXPECT_FALSE(controller->error().isEmpty());
     }
 }

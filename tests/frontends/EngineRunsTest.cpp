@@ -1,8 +1,5 @@
-#include "frontends/TEngineController.h"
+#include "ControllerTest.h"
 #include "system/DiskSpaceWatch.h"
-#include "tests/fakes/FakeEngine.h"
-
-#include "Support.h"
 
 #include <QSettings>
 #include <QSignalSpy>
@@ -13,14 +10,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class EngineRuns : public testing::Test {
+class EngineRuns : public ControllerTest {
 protected:
     EngineRuns() {
         // The disk of the machine that runs the tests is no concern of theirs.
         QSettings().setValue(u"checkDiskSpace"_s, false);
-        auto backend = std::make_unique<FakeEngine>();
-        engine = backend.get();
-        controller = std::make_unique<TEngineController>(std::move(backend));
         QObject::connect(controller.get(), &TEngineController::procResultChanged, controller.get(), [this] {
             answers << u"result "_s + controller->procResult().value(u"requestUid"_s).toString();
         });
@@ -37,8 +31,6 @@ protected:
         return eventually([this] { return !controller->processing(); });
     }
 
-    FakeEngine *engine = nullptr;
-    std::unique_ptr<TEngineController> controller;
     QStringList answers;
 };
 

@@ -212,7 +212,7 @@ Picture photograph(const QString &path) {
     const QImage whole(path);
     const QImage reduced = whole.scaled(whole.width() * 2 / 5, whole.height() * 2 / 5, Qt::IgnoreAspectRatio,
                                         Qt::SmoothTransformation);
-    const QSize size = reduced.size().boundedTo({800, 560});
+    const QSize size = reduced.size().boundedTo({640, 448});
     const QPoint corner((reduced.width() - size.width()) / 2, (reduced.height() - size.height()) / 2);
     return fromImage(reduced.copy(QRect(corner, size)));
 }

@@ -40,7 +40,7 @@ Picture compressed(const Picture &picture, int quality);
 std::shared_ptr<ImageData> image(const Picture &picture, SampleType type = SampleType::UInt8,
                                  int channels = 3);
 
-/// Photographs that the machine has; empty on one without them.
+/// The photographs of the package mate-backgrounds.
 QStringList photographs();
 /// Reduced to 0.4, which takes old compression away, and cut to a size that measures quickly.
 Picture photograph(const QString &path);
