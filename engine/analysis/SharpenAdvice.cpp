@@ -108,8 +108,8 @@ Advice adviseSharpen(const AdviceInput &input) {
     const std::array<Type, 5> types = typesFor(input, blur, factor);
     const QString wanted = wantedType(input);
     Type chosen = types.front();
-    if (const ModelDefinition *other = input.models.find(Categories::Sharpen, wanted))
-        chosen.model = other->model;
+    if (input.models.models(Categories::Sharpen).contains(wanted))
+        chosen.model = wanted;
     for (const Type &type : types) {
         const ModelDefinition *model = input.models.find(Categories::Sharpen, type.model);
         advice.parameters.insert(type.prefix + BlurSuffix,
