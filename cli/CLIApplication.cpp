@@ -8,8 +8,8 @@
 #include "cli/SettingsSummary.h"
 #include "cli/Usage.h"
 #include "cli/WriterOptions.h"
-#include "frontends/PreferenceTable.h"
 #include "frontends/AppContext.h"
+#include "frontends/PreferenceTable.h"
 #include "system/Identity.h"
 #include "system/SystemInfo.h"
 

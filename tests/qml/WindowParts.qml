@@ -149,7 +149,6 @@ Item {
         engine: _engine
         windowState: _state
         settings: _settings
-        panKeyHeld: false
         originalKeyHeld: _top.originalKeyHeld
         navigatorWidth: _panel.navigatorWidth
     }

@@ -36,7 +36,6 @@ TestCase {
             { tag: "last opened in front", before: ["/a"], change: () => recent.opened(["/b", "/c"]), after: ["/c", "/b", "/a"] },
             { tag: "again", before: ["/a", "/b", "/c"], change: () => recent.opened(["/c"]), after: ["/c", "/a", "/b"] },
             { tag: "ten at most", before: ["/a"], change: () => recent.opened(many), after: many.slice(4).reverse() },
-            { tag: "never stored", before: undefined, change: () => recent.opened(["/a"]), after: ["/a"] },
             { tag: "unreadable", before: ["/a", "/b", "/c"], change: () => recent.forget("/b"), after: ["/a", "/c"] },
             { tag: "gone", before: ["/gone", here], change: () => recent.clean(), after: [here] },
             { tag: "cleared", before: ["/a"], change: () => recent.clear(), after: [] }
