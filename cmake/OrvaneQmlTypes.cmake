@@ -4,18 +4,19 @@
 
 set(ORVANE_QML_TYPES_FOLDER ${CMAKE_BINARY_DIR}/qml)
 
-# orvane_qml_type(<room> <header> [BASE header] [MODULE name] [DEPENDS modules...])
-# The module is called like the header unless another is named. BASE has the class that this one derives from, where
-# documents see what it has and not itself; DEPENDS are modules of ours whose types this one shows.
+# orvane_qml_type(<room> <header> [WITH headers...] [MODULE name] [DEPENDS modules...])
+# The module is called like the header unless another is named. WITH has the class that this one derives from, where
+# documents see what it has and not itself, and value types that it shows; DEPENDS are modules of ours whose types this
+# one shows.
 function(orvane_qml_type room header)
-  cmake_parse_arguments(ARG "" "BASE;MODULE" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "" "MODULE" "DEPENDS;WITH" ${ARGN})
   cmake_path(GET header STEM type)
   if(NOT ARG_MODULE)
     set(ARG_MODULE ${type})
   endif()
   # What moc reads out of these headers alone: a room's whole list would put all of its types into one module.
   set(described)
-  foreach(file IN ITEMS ${header} ${ARG_BASE})
+  foreach(file IN ITEMS ${header} ${ARG_WITH})
     set(source ${CMAKE_CURRENT_SOURCE_DIR}/${file})
     set(output ${CMAKE_BINARY_DIR}/qml_types/${file}.moc)
     set(folders "$<TARGET_PROPERTY:orvane_${room},INCLUDE_DIRECTORIES>")

@@ -163,10 +163,11 @@ QtObject {
 
         // The resolution controls set this flag to change values without a run.
         function skipsOnce(current: var): bool {
-            const params = current["Enhance"]?.params;
+            const controls = _top.windowState.controls;
+            const params = current[controls.categories.enhance]?.params;
             if (!params?.updated)
                 return false;
-            _top.windowState.controls.setParams("Enhance", Object.assign({}, params, {
+            controls.setParams(controls.categories.enhance, Object.assign({}, params, {
                 "updated": false
             }));
             return true;

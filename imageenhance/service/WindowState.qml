@@ -41,7 +41,7 @@ QtObject {
     readonly property bool hidesPreview: isSaving || isExporting
 
     readonly property real currentScale: {
-        const enhance = currentControls["Enhance"];
+        const enhance = currentControls[controls.categories.enhance];
         return enhance?.enabled ? enhance.params?.scale ?? 1 : 1;
     }
     readonly property size inputSize: {

@@ -45,7 +45,7 @@ Rectangle {
         RowLayout {
             PbTextField {
                 id: _filter
-                text: "Denoise"
+                text: _top.controls.categories.denoise
                 Layout.preferredWidth: 100
             }
             PbTextField {

@@ -64,7 +64,7 @@ QtObject {
         property real currentScale: 1
 
         function enhanceScale(): real {
-            const enhance = _top.currentControls["Enhance"];
+            const enhance = _top.currentControls[_top.windowState.controls.categories.enhance];
             return enhance?.enabled ? enhance.params?.scale ?? 1 : 1;
         }
 
