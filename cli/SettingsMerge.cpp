@@ -103,7 +103,7 @@ void SettingsMerge::report(const QString &category, const QList<Override> &overr
         overrideProblems(category, filterOf(category), catalogue.value(category).toMap(), overrides);
     for (const QString &problem : problems) {
         console::errLine(problem);
-        qWarning().noquote() << "[CLI]" << problem;
+        qInfo().noquote() << "[CLI]" << problem; // a warning would be echoed as a second line
     }
 }
 

@@ -125,7 +125,7 @@ TEST_F(Merge, NothingIsSwallowed) {
         override(row.category, row.texts);
         apply(advice);
         EXPECT_EQ(capture.err(), row.said);
-        const QString logged = u"warning [CLI] "_s + QString::fromUtf8(row.said).trimmed();
+        const QString logged = u"info [CLI] "_s + QString::fromUtf8(row.said).trimmed();
         EXPECT_EQ(Capture::log().contains(logged), *row.said != 0) << row.said;
     }
 }
