@@ -1,4 +1,4 @@
-# Parts that controls are made of, usable by themselves.
+# Parts that controls are built from, usable by themselves.
 list(APPEND PEBBLE_QML
   elements/PbFocusRing.qml
   elements/PbIcon.qml
