@@ -9,7 +9,7 @@ namespace Directories {
 
 /// What the lookups look at.
 struct Environment {
-    QString registeredModelDir; ///< install root as the system's registry or settings tell it, or empty
+    QString registeredModelDir; ///< install root from the system's registry or settings, or empty
     QString programFolder;      ///< folder of the running program, or empty
     QStringList dataLocations;  ///< application data locations, the user's own first
 

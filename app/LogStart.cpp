@@ -13,7 +13,7 @@ QString startLog(bool plainConsole, int consoleLevel) {
     qputenv("QT_LOGGING_RULES", "qt.qml.binding.removal.info=true");
     const QString directory = Directories::logDirectory(Directories::Environment::ofProcess());
 
-    // What is logged before the handler stands goes to the console as it is, so a console that
+    // What is logged before the handler is set goes to the console as it is, so a console that
     // asked for less is spared it here.
     QLoggingCategory *category = QLoggingCategory::defaultCategory();
     const bool wanted = category->isInfoEnabled();

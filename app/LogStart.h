@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// Starts logging; called once by an entry, before the application object exists and before the
-/// application's identity is set. Returns the log folder. The entry ends with TLogger::shutdown().
+/// Starts logging; called once by an entry point, before the application object exists and before the
+/// application's identity is set. Returns the log folder. The program ends with TLogger::shutdown().
 QString startLog(bool plainConsole, int consoleLevel);

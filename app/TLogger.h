@@ -7,7 +7,7 @@
 #include <memory>
 
 /// Where the program's messages go: to the log file of this run and to the console, both written
-/// on a thread of their own. One stands at a time; everybody else logs through Qt and knows
+/// on a thread of their own. There is one at a time; everybody else logs through Qt and knows
 /// nothing of it.
 class TLogger : public QObject {
     Q_OBJECT
@@ -17,16 +17,16 @@ public:
     /// `plainConsole`, bare on standard error.
     static void initialize(const QString &directory, int consoleLevel, bool plainConsole);
 
-    /// What the console is held with while a message goes there, for an entry that draws something
+    /// What the console is held with while a message goes there, for a program that draws something
     /// else on the same terminal. Called on the logger's thread; set before initialize().
     using ConsoleGuard = std::function<std::shared_ptr<void>()>;
     static void setConsoleGuard(ConsoleGuard guard);
 
-    /// Destroys the logger, if one stands, after everything logged so far is written. Gives up
+    /// Destroys the logger, if there is one, after everything logged so far is written. Gives up
     /// after five seconds.
     static void shutdown();
 
-    /// Path of the log file of this run; empty when no logger stands or its file couldn't be made.
+    /// Path of the log file of this run; empty when there is no logger or its file couldn't be made.
     static QString currentLogFile();
 
     /// The handler for qInstallMessageHandler. Never waits for a file or a console, except that a

@@ -18,9 +18,9 @@
 
 namespace {
 
-bool given(std::span<char *const> arguments, std::initializer_list<std::string_view> words) {
+bool given(std::span<char *const> arguments, std::initializer_list<std::string_view> names) {
     return std::ranges::any_of(arguments, [&](std::string_view argument) {
-        return std::ranges::find(words, argument) != words.end();
+        return std::ranges::find(names, argument) != names.end();
     });
 }
 
@@ -33,7 +33,7 @@ int runBatch(int argc, char **argv, const QString &modelDirectory, const QString
 
 } // namespace
 
-// The console entry for batch work.
+// The console's entry point for batch work.
 int main(int argc, char **argv) {
     System::setConsoleUtf8();
     const std::span<char *const> arguments(argv + std::min(argc, 1), argv + argc);

@@ -110,7 +110,7 @@ std::vector<double> printGains(const Degradation &degradation, const std::vector
 
 void printRow(const Degradation &degradation, const std::vector<Photograph> &photographs, EngineRun &engine,
               const Options &options, Totals &totals) {
-    const std::vector<Look> looks = lookAtAll(degradation, photographs);
+    const std::vector<Look> looks = measureAll(degradation, photographs);
     printMeasured(degradation, looks, photographs, totals);
     std::vector<double> gains(looks.size());
     if (!options.measureOnly)
@@ -169,6 +169,6 @@ int benchAutopilot(const QStringList &arguments) {
     }
     if (!options.only.isEmpty())
         return worst;
-    worst = std::max({worst, orderOfBlurs(photographs), mostLikeADrawing(photographs)});
-    return std::max(worst, timeOfALargeOne(photographs.front()));
+    worst = std::max({worst, orderOfBlurs(photographs), mostDrawingLike(photographs)});
+    return std::max(worst, timeLargePicture(photographs.front()));
 }

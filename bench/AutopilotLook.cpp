@@ -52,7 +52,7 @@ std::vector<Filter> Look::stack() const {
     return filters;
 }
 
-std::vector<Look> lookAtAll(const Degradation &degradation, const std::vector<Photograph> &photographs) {
+std::vector<Look> measureAll(const Degradation &degradation, const std::vector<Photograph> &photographs) {
     std::vector<Look> looks(photographs.size());
     cv::parallel_for_({0, int(photographs.size())}, [&](const cv::Range &range) {
         for (auto i = std::size_t(range.start); i < std::size_t(range.end); ++i)

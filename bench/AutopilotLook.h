@@ -19,17 +19,17 @@ struct Look {
     std::vector<Filter> stack() const;
 };
 
-std::vector<Look> lookAtAll(const Degradation &degradation, const std::vector<Photograph> &photographs);
+std::vector<Look> measureAll(const Degradation &degradation, const std::vector<Photograph> &photographs);
 
 /// How many decibels nearer to the clean original the recommended filters bring the picture, away from
 /// the border, where a blur had nothing to look at; 0 where there are none.
 double gainOf(const Look &look, EngineRun &engine);
 
-/// Whether neighbouring blurs of one photograph are told in the right order; 1 where one isn't.
+/// Whether neighbouring blurs of one photograph are measured in the right order; 1 where one isn't.
 int orderOfBlurs(const std::vector<Photograph> &photographs);
 
-/// Whether none of the photographs would be taken for a drawing; 1 where one would.
-int mostLikeADrawing(const std::vector<Photograph> &photographs);
+/// Whether none of the photographs would be mistaken for a drawing; 1 where one would.
+int mostDrawingLike(const std::vector<Photograph> &photographs);
 
 /// What a look at 24 megapixels takes; 1 where it takes too long.
-int timeOfALargeOne(const Photograph &photograph);
+int timeLargePicture(const Photograph &photograph);

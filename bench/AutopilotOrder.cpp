@@ -43,11 +43,11 @@ int orderOfBlurs(const std::vector<Photograph> &photographs) {
             std::printf(" %5.2f", double(value));
         std::printf("\n");
     }
-    std::printf("blurs of 0 to 6 told in the right order: %zu of %zu pairs\n", right, all);
+    std::printf("blurs of 0 to 6 measured in the right order: %zu of %zu pairs\n", right, all);
     return right == all ? 0 : 1;
 }
 
-int mostLikeADrawing(const std::vector<Photograph> &photographs) {
+int mostDrawingLike(const std::vector<Photograph> &photographs) {
     float most = 0;
     QString name;
     for (const Photograph &photograph : photographs) {
@@ -61,7 +61,7 @@ int mostLikeADrawing(const std::vector<Photograph> &photographs) {
     return most < Thresholds::DrawingShare ? 0 : 1;
 }
 
-int timeOfALargeOne(const Photograph &photograph) {
+int timeLargePicture(const Photograph &photograph) {
     cv::Mat large;
     cv::resize(photograph.larger, large, {6000, 4000}, 0, 0, cv::INTER_CUBIC);
     cv::Mat noise(large.size(), CV_8UC3);

@@ -19,12 +19,12 @@ bool canRunChildren() {
 }
 
 ChildUse runChild(const QString &program, const QStringList &arguments) {
-    std::vector<QByteArray> words = {QFile::encodeName(program)};
+    std::vector<QByteArray> encoded = {QFile::encodeName(program)};
     for (const QString &argument : arguments)
-        words.push_back(QFile::encodeName(argument));
+        encoded.push_back(QFile::encodeName(argument));
     std::vector<char *> argv;
-    for (QByteArray &word : words)
-        argv.push_back(word.data());
+    for (QByteArray &bytes : encoded)
+        argv.push_back(bytes.data());
     argv.push_back(nullptr);
 
     ChildUse use;

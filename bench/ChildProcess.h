@@ -11,7 +11,7 @@ struct ChildUse {
     QByteArray errors;        ///< its standard error
 };
 
-/// Whether this system tells what another process used.
+/// Whether this system reports what another process used.
 bool canRunChildren();
 
 /// Runs the program to its end; its standard output is dropped.

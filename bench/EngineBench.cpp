@@ -141,7 +141,7 @@ int benchSpeed(EngineRun &engine, const cv::Mat &picture, const Reference &refer
     return 0;
 }
 
-/// Most memory this process held since the last reset, in bytes; 0 where the system doesn't tell.
+/// Most memory this process held since the last reset, in bytes; 0 where the system doesn't say.
 double peakMemory() {
     QFile status(u"/proc/self/status"_s);
     if (!status.open(QIODevice::ReadOnly))

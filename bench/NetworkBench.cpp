@@ -106,7 +106,7 @@ public:
             std::fprintf(stderr, "network: %s\n", qPrintable(result.error));
         return result.image ? double(timer.nsecsElapsed()) / 1e9 : -1;
     }
-    /// Milliseconds from the wish to stop to the answer, the worst of several.
+    /// Milliseconds from the stop request to the answer, the worst of several.
     double stopping(ProcRequest request) {
         double worst = 0;
         for (const int delay : {30, 70, 110, 160, 230, 310}) {

@@ -67,7 +67,7 @@ std::vector<Photograph> readPhotographs(const QStringList &paths, cv::Size size)
         const cv::Size source(int(cut.width / factor), int(cut.height / factor));
         const cv::Mat part = whole(cv::Rect((whole.cols - source.width) / 2, (whole.rows - source.height) / 2,
                                             source.width, source.height));
-        // Names of files or, where these only tell the size, of their packages.
+        // Names of files or, where these only give the size, of their packages.
         const QString name = path.section(u'/', -1).startsWith(u"2560x"_s) ? path.section(u'/', -4, -4)
                                                                            : QFileInfo(path).baseName();
         Photograph photograph{name, {}, {}};

@@ -92,12 +92,12 @@ double StudioProcess::processorSeconds() const {
 #ifdef Q_OS_LINUX
     QFile file(u"/proc/%1/stat"_s.arg(m_process.processId()));
     if (file.open(QFile::ReadOnly)) {
-        // Behind the name in brackets: the 12th and 13th word are the time of the program and of the system
+        // Behind the name in brackets: the 12th and 13th field are the time of the program and of the system
         // for it.
         const QByteArray text = file.readAll();
-        const QList<QByteArray> words = text.mid(text.lastIndexOf(')') + 2).split(' ');
-        if (words.size() > 12)
-            return (words[11].toDouble() + words[12].toDouble()) / double(sysconf(_SC_CLK_TCK));
+        const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
+        if (fields.size() > 12)
+            return (fields[11].toDouble() + fields[12].toDouble()) / double(sysconf(_SC_CLK_TCK));
     }
 #endif
     return 0;

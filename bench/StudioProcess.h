@@ -6,7 +6,7 @@
 
 #include <vector>
 
-/// The window's program under measurement, with a home of its own, and what its watch reports.
+/// The window's program under measurement, with a home directory of its own, and what its watch reports.
 class StudioProcess {
 public:
     explicit StudioProcess(const QString &program);
@@ -21,7 +21,7 @@ public:
     void watch(int milliseconds);
     double now() const { return double(m_clock.nsecsElapsed()) / 1e6; }
 
-    /// What the watch said in one second.
+    /// What the watch reported for one second.
     struct Second {
         int frames = 0;
         double interval = 0;  ///< median between two frames, milliseconds

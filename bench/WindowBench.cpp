@@ -97,7 +97,7 @@ void press(const QString &key) {
     WindowDriver::send({u"key"_s, key});
 }
 
-/// A picture that is opened while another one stands, as a person does.
+/// Opens a picture while another one is shown, as a person does.
 int opening(const QTemporaryDir &folder) {
     const QString small = photograph(folder, u"small.jpg"_s, 600, 400);
     const QString large = photograph(folder, u"24.jpg"_s, 6000, 4000);
@@ -152,8 +152,8 @@ int phase(StudioProcess &window, const char *name, const std::function<void()> &
                 "(99 %%), at "
                 "most %.1f ms; the thread computes at most %.1f ms\n",
                 name, sum.frames, sum.seconds, sum.interval, sum.wait, sum.longest, sum.longestComputing);
-    return row((QByteArray(name) + ": computing in the way of an event, 99 %").constData(), sum.computing,
-               "ms", BlockedMs);
+    return row((QByteArray(name) + ": computing while an event waits, 99 %").constData(), sum.computing, "ms",
+               BlockedMs);
 }
 
 int moving(const QTemporaryDir &folder) {

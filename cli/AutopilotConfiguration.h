@@ -12,7 +12,7 @@ struct Preference;
 /// One of the preferences that steer Autopilot in a batch run.
 struct AutopilotSetting {
     const Preference &preference;
-    QString label; ///< its words in the summary
+    QString label; ///< as the summary shows it
 };
 
 /// In the order of reading, which is the summary's order as well.

@@ -17,7 +17,7 @@ struct BatchOptions {
     bool overwrite = false;
     bool showSettings = false;
     bool skipProcessing = false;
-    bool keepGoing = false; ///< go on past a file that fails, and tell at the end
+    bool keepGoing = false; ///< go on past a file that fails, and report at the end
 
     QSet<QString> inputDirectories; ///< every directory named, cleaned
     QString outputFolder;           ///< empty: each picture goes beside its source

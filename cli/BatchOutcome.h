@@ -4,7 +4,7 @@
 #include <QSet>
 #include <QString>
 
-/// What became of each file of a batch that goes on past failures. A file's first outcome stands.
+/// What became of each file of a batch that goes on past failures. A file's first outcome counts.
 class BatchOutcome {
 public:
     void succeeded(const QString &path);

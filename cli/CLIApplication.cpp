@@ -89,7 +89,7 @@ int CLIApplication::run(const AppContext &context) {
     configureAutopilot(settings, m_engine, m_controls);
     m_controls.setModelParamInfo(m_engine.modelParamInfo());
 
-    // The model complains in the log when it is to show one of no images; nobody is helped by that.
+    // The model complains in the log when it is to show one of no images; that helps nobody.
     if (!files.isEmpty())
         m_controls.loadImages(files, false);
     const qsizetype total = m_controls.loadedImages().size();

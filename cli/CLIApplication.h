@@ -92,7 +92,7 @@ private:
     TEventTracker m_tracker;
     BatchOptions m_options;
     const QMap<QString, QString> m_categories; ///< option stem to category
-    std::atomic<int> m_finishedCount = 0;      ///< files at an end of their way, saved or failed
+    std::atomic<int> m_finishedCount = 0;      ///< files that are done, saved or failed
     bool m_canWrite = true;
     bool m_nextPending = false; ///< a file waits for the writer before the next may start
 

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// The batch run's own words on the two standard streams, as UTF-8 whatever the system's encoding.
+/// The batch run's own output on the two standard streams, as UTF-8 whatever the system's encoding.
 /// Each call takes the status line away first and leaves its text flushed.
 namespace console {
 

@@ -56,7 +56,7 @@ QStringList collect(const QStringList &paths, BatchOptions &options) {
 } // namespace
 
 QStringList gatherFiles(QStringList args, const QMap<QString, QString> &categories, BatchOptions &options) {
-    const bool keepGoing = asksToKeepGoing(args);
+    const bool keepGoing = hasKeepGoing(args);
     QStringList paths;
     while (!args.isEmpty()) {
         const QString arg = args.takeFirst();

@@ -15,7 +15,7 @@ constexpr int watchedSignals[] = {SIGINT, SIGTERM};
 
 volatile std::sig_atomic_t writeEnd = -1;
 
-// Only async-signal-safe calls here. A failed write can't be told to anybody.
+// Only async-signal-safe calls here. A failed write can't be reported to anybody.
 void onSignal(int number) {
     const int before = errno;
     const char byte = char(number);

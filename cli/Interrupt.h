@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// Turns Ctrl-C (and a polite request to end) into a signal on the main thread. One object at a
+/// Turns Ctrl-C (and a request to terminate) into a signal on the main thread. One object at a
 /// time. The second Ctrl-C ends the process at once; a first one that comes after the object is
 /// gone does nothing.
 class Interrupt : public QObject {

@@ -2,8 +2,8 @@
 
 #include "cli/BatchOptions.h"
 
-/// Readers for the values of single options. Each stores the value and tells whether it is good;
-/// a bad one has been told on standard error.
+/// Readers for the values of single options. Each stores the value and returns whether it is valid;
+/// an invalid one has been reported on standard error.
 namespace optionValues {
 
 bool outputFolder(const QString &value, BatchOptions &options);

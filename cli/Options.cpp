@@ -97,7 +97,7 @@ bool parseOption(const QString &arg, QStringList &rest, const QMap<QString, QStr
     return false;
 }
 
-bool asksToKeepGoing(const QStringList &args) {
+bool hasKeepGoing(const QStringList &args) {
     for (qsizetype i = 0; i < args.size(); ++i) {
         if (!args.at(i).startsWith(u'-'))
             continue;

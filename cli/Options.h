@@ -7,5 +7,5 @@
 bool parseOption(const QString &arg, QStringList &rest, const QMap<QString, QString> &categories,
                  BatchOptions &options);
 
-/// Whether the words ask for --keep-going, wherever it stands, but not as another option's value.
-bool asksToKeepGoing(const QStringList &args);
+/// Whether the arguments ask for --keep-going, wherever it is, but not as another option's value.
+bool hasKeepGoing(const QStringList &args);

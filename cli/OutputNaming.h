@@ -8,7 +8,7 @@ struct OutputKind {
     QString extension;
 };
 
-/// What becomes of `inputPath` under the requested format. An extension that already says so stays
+/// What `inputPath` turns into under the requested format. An extension that already says so stays
 /// as it is written. Preserve follows the extension, and camera files become DNG.
 OutputKind outputKind(const QString &inputPath, OutputFormat requested);
 

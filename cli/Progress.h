@@ -16,7 +16,7 @@ public:
 
     void begin(qsizetype total);
     void startFile(qsizetype number, const QString &path);
-    /// `fraction` of the present file's processing; below 0 when it can't be told.
+    /// `fraction` of the present file's processing; below 0 when it is unknown.
     void setStage(const QString &stage, double fraction = -1);
     void end();
 

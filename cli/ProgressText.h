@@ -4,7 +4,7 @@
 
 #include <optional>
 
-/// Where a batch stands, as its progress line tells it.
+/// How far a batch has come, as its progress line shows it.
 struct BatchProgress {
     qsizetype file = 0; ///< the present one, counted from 1
     qsizetype total = 0;

@@ -9,7 +9,7 @@ class TControls;
 
 /// Puts on the current image the filters that Autopilot enabled, then the user's overrides on top,
 /// and sets the order of processing. `autopilot` is Autopilot's answer: category to settings.
-/// What the overrides ask for and can't have is said with the names that exist; the run goes on.
+/// Overrides that ask for what isn't there are reported with the names that exist; the run goes on.
 class SettingsMerge {
 public:
     SettingsMerge(TControls &controls, const BatchOptions &options, const QStringList &filterOrder,

@@ -25,7 +25,7 @@ QString shown(const QVariant &value) {
 
 class Lines {
 public:
-    void heading(const QString &words) { m_text += words + u'\n'; }
+    void heading(const QString &text) { m_text += text + u'\n'; }
     void item(const QString &label, const QVariant &value) {
         m_text += u"  "_s + label + u": "_s + shown(value) + u'\n';
     }

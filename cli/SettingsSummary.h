@@ -4,5 +4,5 @@
 
 class QSettings;
 
-/// What a batch run is about to do, in the words printed before its first file.
+/// What a batch run is about to do, as the text printed before its first file.
 QString settingsSummary(const QSettings &settings, const BatchOptions &options, qsizetype fileCount);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// The one line at the bottom of a terminal that is rewritten in place. It stands on standard
+/// The one line at the bottom of a terminal that is rewritten in place. It is on standard
 /// error; whoever writes anything else to the terminal, from whatever thread, holds a Pause.
 class StatusLine {
 public:

@@ -1,6 +1,6 @@
 #pragma once
 
-/// What the system tells about the terminal behind standard error.
+/// What the system says about the terminal behind standard error.
 namespace terminal {
 
 bool onStandardError();

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The words that answer --help, line feeds included.
+/// The text that --help prints, line feeds included.
 QString usageText();
 
-/// Writes them to standard output.
+/// Writes it to standard output.
 void printUsage();

@@ -1,5 +1,5 @@
 # The native types that documents import. A class says in its own header what it is to them (QML_ELEMENT,
-# QML_UNCREATABLE); its room says here which module it stands in. Out of both come, for each module, the description
+# QML_UNCREATABLE); its room says here which module it belongs to. Out of both come, for each module, the description
 # that the linter and editors read and the source that registers its types at version 1.0.
 
 set(ORVANE_QML_TYPES_FOLDER ${CMAKE_BINARY_DIR}/qml)

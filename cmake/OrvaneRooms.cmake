@@ -40,7 +40,7 @@ if(ORVANE_SANITIZE)
 endif()
 
 # Every module's documents: cmake --build build/release --target lint. A module adds its own linter run with
-# orvane_lint(<target>); the warnings that stop it stand in .qmllint.ini.
+# orvane_lint(<target>); the warnings that stop it are in .qmllint.ini.
 add_custom_target(lint)
 function(orvane_lint target)
   add_dependencies(lint ${target})
@@ -116,7 +116,7 @@ function(orvane_test name)
 endfunction()
 
 # orvane_documents_test(<name> SOURCES ... LIBS ...): a Qt Quick Test program that runs every tst_*.qml of the calling
-# folder on a window that is nowhere shown. ctest knows it as a whole and file by file (ctest -R tst_name).
+# folder on a window that is never shown. ctest knows it as a whole and file by file (ctest -R tst_name).
 function(orvane_documents_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -150,7 +150,7 @@ function(orvane_command_test name)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${limit} LABELS "whole;case;${kind}")
 endfunction()
 
-# A limit tells a program that hangs from one that is slow: with sanitizers on two cores beside another build, a program
+# A limit separates a program that hangs from one that is slow: with sanitizers on two cores beside another build, a program
 # takes some twenty times what it takes alone and optimised.
 function(_orvane_limit result seconds)
   if(NOT seconds)

@@ -5,9 +5,9 @@
 
 /// The vocabulary of filters: every name that settings, presets, requests, Autopilot's answers and model
 /// definitions share. They are stored in files, so none may change. A *filter* is an entry of a picture's
-/// settings ("Denoise", "Denoise2"), its *category* the kind of work it does, its *model* what does it;
-/// an *operation* is the engine's code that runs a model. Names that only one definition file has, such
-/// as the parameters of a model, stand there and come with the catalogue.
+/// settings ("Denoise", "Denoise2"), its *category* the kind of work it does, its *model* what carries it
+/// out; an *operation* is the engine's code that runs a model. Names that only one definition file has, such
+/// as the parameters of a model, are only there and come with the catalogue.
 
 /// Categories, which are also the names of filters without a number.
 namespace Categories {

@@ -13,12 +13,12 @@ struct ReadRequest {
 };
 
 /// Exactly one of: cancelled, a non-empty error (a sentence for the user), or an image.
-/// The picture stands upright: any orientation of the file has been applied to the pixels.
+/// The picture is upright: any orientation of the file has been applied to the pixels.
 struct ReadResult {
     bool cancelled = false;
     QString error{};
     std::shared_ptr<ImageData> image{};
-    QVariantMap metadata{}; ///< "make", "model", "iso", "orientation", "isRaw", ... as far as the file tells
+    QVariantMap metadata{}; ///< "make", "model", "iso", "orientation", "isRaw", ... where the file has them
     double resolution = 72; ///< pixels per `resolutionUnit`
     int resolutionUnit = 2; ///< 2 inch, 3 centimetre
 };
@@ -54,7 +54,7 @@ public:
 
     virtual ReadResult read(const ReadRequest &request, const RunControl &control) = 0;
 
-    /// Pixel size as shown (orientation applied) from the header alone; empty when it can't be told.
+    /// Pixel size as shown (orientation applied) from the header alone; empty when it is unknown.
     virtual QSize imageSize(const QString &path) = 0;
 
     /// Atomic: afterwards the output path holds the old file or the whole new one. Makes missing folders.

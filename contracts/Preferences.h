@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <QVariantList>
 
-/// A preference's default from what stands in its row: texts for a text or a list of texts, and otherwise
-/// what the type is made of.
+/// A preference's default from what its row says: texts for a text or a list of texts, and otherwise
+/// what the type is constructed from.
 template <typename T, typename... Parts>
 T preferenceValue(const Parts &...parts) {
     if constexpr (std::is_same_v<T, QStringList>)
@@ -29,14 +29,14 @@ inline QVariantMap outputFolderChoice(const char *text, const char *value) {
 // engine.
 //
 // ROW(type, key, (default), allowed)
-//   Allowed, besides what the type says: anything(), oneOf(...) or within(lowest, highest). What else is
-//   found in the store gives way to the default.
+//   Allowed, besides what the type says: anything(), oneOf(...) or within(lowest, highest). Anything else
+//   found in the store is replaced by the default.
 // ROW(type, key, (default), allowed, type in the engine, property of the engine, its setter[, console])
-//   Where the console goes another way: underKey(...), byDefault(...) with what its summary shows instead of
+//   Where the console differs: underKey(...), byDefault(...) with what its summary shows instead of
 //   that.
 // clang-format off
 
-// What the analysis is told.
+// What the analysis is given.
 #define AUTOPILOT_PREFERENCES(ROW) \
     ROW(bool, autopilotRecommendFilters, (false), anything(), bool, recommendFilters, setRecommendFilters) \
     ROW(QString, autopilotFaceDetect, ("auto"), oneOf("auto", "all", "subject", "none"), QString, faceDetection, setFaceDetection) \

@@ -25,8 +25,8 @@ class AppContext : public QObject {
     Q_PROPERTY(QString presetsDirectory READ presetsDirectory CONSTANT)
 
 public:
-    /// Makes the folder "Presets" beside the log folder. When that can't be done, the path is told
-    /// all the same and leads nowhere.
+    /// Makes the folder "Presets" beside the log folder. When that can't be done, the path is given
+    /// all the same and nothing is there.
     AppContext(const QString &modelDirectory, const QString &logDirectory, QObject *parent = nullptr);
 
     QString appName() const { return m_appName; }

@@ -24,7 +24,7 @@ public:
     explicit EngineSettings(QObject *parent = nullptr)
         : QObject(parent) {}
 
-    /// What the analysis is told.
+    /// What the analysis is given.
     const Autopilot::Preferences &preferences() const { return m_preferences; }
 
     bool isCli() const { return m_isCli; }

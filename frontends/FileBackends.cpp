@@ -19,7 +19,7 @@ FileFormats &currentFormats() {
     return formats;
 }
 
-/// Stands where no image library was handed in, and says so.
+/// Used where no image library was handed in: every answer says so.
 class NoFiles : public ImageFileBackend {
 public:
     FileFormats formats() const override { return fileFormats(); }

@@ -5,7 +5,7 @@
 #include <QVariantMap>
 #include <QtQmlIntegration/qqmlintegration.h>
 
-/// What QML may ask of the images and metadata that it carries about without looking inside.
+/// What QML may ask of the images and metadata that it passes around without looking inside.
 class ImageDataUtils : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -2,7 +2,7 @@
 
 #include "contracts/ProcessingBackend.h"
 
-/// Stands where no engine was handed in, and says so.
+/// Used where no engine was handed in: every answer says so.
 class NoEngine : public ProcessingBackend {
 public:
     QVariantMap catalogue(const QString &) override { return {}; }

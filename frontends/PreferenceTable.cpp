@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The words of the table's rows: each changes what a row has said so far.
+// What a row of the table may hold: each part changes the preference that the ones before it made.
 auto anything() {
     return [](Preference &) {};
 }
@@ -54,13 +54,13 @@ auto byDefault(const QVariant &initial, const QVariant &shown) {
     };
 }
 
-template <typename... Words>
-Preference row(const char *key, const QVariant &initial, const char *engineProperty, Words... words) {
+template <typename... Parts>
+Preference row(const char *key, const QVariant &initial, const char *engineProperty, Parts... parts) {
     Preference p;
     p.key = p.consoleKey = QString::fromLatin1(key);
     p.initial = p.consoleInitial = p.consoleShown = initial;
     p.engineProperty = QString::fromLatin1(engineProperty);
-    (words(p), ...);
+    (parts(p), ...);
     return p;
 }
 

@@ -74,7 +74,7 @@ void TEngineController::setModelDirectory(const QString &directory) {
         Q_EMIT modelDirectoryChanged();
 }
 
-// Models come with the program: who waits for a download to bring them is told that none will.
+// Models come with the program: who waits for a download to bring them learns at once that none will.
 void TEngineController::warnOfMissingModels() const {
     qWarning().noquote() << "[PROC] No models found in" << m_modelDirectory;
     if (storedPreference(QSettings(), u"modelDownloads").toBool())
@@ -164,7 +164,7 @@ RunControl TEngineController::progressOf(const std::stop_token &stop) {
 }
 
 // Runs take turns on one thread, so the oldest request is the one that is answered. All state
-// stands before the first signal: a listener may ask for the next run at once.
+// is set before the first signal: a listener may ask for the next run at once.
 void TEngineController::settleRun(const ProcRequest &request, const ProcResult &result) {
     const Run run = std::move(m_runs.front());
     m_runs.pop_front();

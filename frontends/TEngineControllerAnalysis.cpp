@@ -40,12 +40,12 @@ void TEngineController::autoPilot(const QVariantMap &image, const QVariantMap &o
         m_analysis->request_stop();
     m_analysis = m_analyses.post(
         [this, engine = backend(), input = EngineRequests::input(image),
-         wishes = EngineRequests::autopilotOptions(options, preferences())](const std::stop_token &stop) {
+         wanted = EngineRequests::autopilotOptions(options, preferences())](const std::stop_token &stop) {
             if (stop.stop_requested())
                 return;
             AutopilotAnswer answer;
             if (input.image && !input.image->isNull())
-                answer = engine->analyse(input, wishes, stepsOf(input.uid, stop));
+                answer = engine->analyse(input, wanted, stepsOf(input.uid, stop));
             else
                 answer.error = tr("There is no picture to analyse.");
             m_mailbox.post([this, stop, input, answer] {

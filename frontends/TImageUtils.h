@@ -41,7 +41,7 @@ public:
     Q_INVOKABLE static QString getFilename(const QString &path);
     /// The folder, without a slash at the end.
     Q_INVOKABLE static QString getPath(const QString &path);
-    /// Size in pixels as shown, from the header alone; (-1, -1) when it can't be told.
+    /// Size in pixels as shown, from the header alone; (-1, -1) when it is unknown.
     Q_INVOKABLE static QSize imageSize(const QString &path);
 
     Q_INVOKABLE static bool doesRectCoverRect(const QRectF &outer, const QRectF &inner);

@@ -56,22 +56,22 @@ private:
 
 } // namespace
 
-GatheredInput gatherInput(const QStringList &words, const std::stop_token &stop) {
+GatheredInput gatherInput(const QStringList &entries, const std::stop_token &stop) {
     Gatherer gatherer(stop);
-    for (const QString &word : words) {
-        if (word.isEmpty())
+    for (const QString &entry : entries) {
+        if (entry.isEmpty())
             continue;
-        const QFileInfo info(word);
+        const QFileInfo info(entry);
         if (info.isDir())
             gatherer.addFolder(info.absoluteFilePath());
-        else if (info.isFile() && gatherer.isSupported(word))
+        else if (info.isFile() && gatherer.isSupported(entry))
             gatherer.add(info.absoluteFilePath());
-        else if (info.exists() || !word.startsWith(QLatin1Char('-')))
+        else if (info.exists() || !entry.startsWith(QLatin1Char('-')))
             gatherer.addInvalid(info.absoluteFilePath());
     }
     return gatherer.take();
 }
 
-bool namesFolder(const QStringList &words) {
-    return std::ranges::any_of(words, [](const QString &word) { return QFileInfo(word).isDir(); });
+bool namesFolder(const QStringList &entries) {
+    return std::ranges::any_of(entries, [](const QString &entry) { return QFileInfo(entry).isDir(); });
 }

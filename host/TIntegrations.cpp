@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 TIntegrations::TIntegrations(const QStringList &arguments, QObject *parent)
     : QObject(parent)
-    , m_words(arguments.mid(1)) {
+    , m_arguments(arguments.mid(1)) {
 }
 
 QString TIntegrations::mergableInstanceKey() const {
@@ -33,21 +33,21 @@ void TIntegrations::start() {
     if (m_started)
         return;
     m_started = true;
-    handOn(m_words, false);
-    for (const QStringList &words : std::as_const(m_mergedBeforeStart))
-        handOn(words, true);
+    handOn(m_arguments, false);
+    for (const QStringList &entries : std::as_const(m_mergedBeforeStart))
+        handOn(entries, true);
     m_mergedBeforeStart.clear();
 }
 
 // A folder may be large or far away: it is walked in the background, and what comes meanwhile waits its turn.
-void TIntegrations::handOn(const QStringList &words, bool merging) {
-    if (m_gathering == 0 && !namesFolder(words)) {
-        announce(gatherInput(words), merging);
+void TIntegrations::handOn(const QStringList &entries, bool merging) {
+    if (m_gathering == 0 && !namesFolder(entries)) {
+        announce(gatherInput(entries), merging);
         return;
     }
     ++m_gathering;
-    m_gatherer.post([this, words, merging](const std::stop_token &stop) {
-        m_mailbox.post([this, input = gatherInput(words, stop), merging] {
+    m_gatherer.post([this, entries, merging](const std::stop_token &stop) {
+        m_mailbox.post([this, input = gatherInput(entries, stop), merging] {
             --m_gathering;
             announce(input, merging);
         });
@@ -63,10 +63,10 @@ void TIntegrations::announce(const GatheredInput &input, bool merging) {
 
 QString TIntegrations::getDataForMerging() const {
     QJsonArray paths;
-    for (const QString &word : m_words) {
+    for (const QString &argument : m_arguments) {
         // The server's working folder is another one.
-        const QFileInfo info(word);
-        paths.append(info.exists() ? info.absoluteFilePath() : word);
+        const QFileInfo info(argument);
+        paths.append(info.exists() ? info.absoluteFilePath() : argument);
     }
     return QString::fromUtf8(QJsonDocument(paths).toJson(QJsonDocument::Compact));
 }
@@ -77,14 +77,14 @@ void TIntegrations::mergeInstance(const QString &data) {
         qWarning() << "Another instance sent something that is not a list of files";
         return;
     }
-    QStringList words;
-    const QJsonArray entries = document.array();
-    for (const auto &entry : entries)
-        words.append(entry.toString());
+    QStringList entries;
+    const QJsonArray array = document.array();
+    for (const auto &value : array)
+        entries.append(value.toString());
     if (m_started)
-        handOn(words, true);
+        handOn(entries, true);
     else
-        m_mergedBeforeStart.append(words);
+        m_mergedBeforeStart.append(entries);
 }
 
 void TIntegrations::setup(QCoreApplication *application, TIntercom *) {
@@ -106,15 +106,15 @@ bool TIntegrations::eventFilter(QObject *watched, QEvent *event) {
     const auto *drop = static_cast<QDropEvent *>(event);
     if (drop->source() || !drop->mimeData() || !drop->mimeData()->hasUrls())
         return false;
-    QStringList words;
+    QStringList entries;
     const auto urls = drop->mimeData()->urls();
     for (const QUrl &url : urls) {
         if (url.isLocalFile())
-            words.append(url.toLocalFile());
+            entries.append(url.toLocalFile());
         else
-            words.append(url.toString());
+            entries.append(url.toString());
     }
-    QMetaObject::invokeMethod(this, [this, words] { handOn(words, false); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this, entries] { handOn(entries, false); }, Qt::QueuedConnection);
     return false;
 }
 

@@ -106,10 +106,10 @@ Q_SIGNALS:
     void isPluginModeChanged(bool isPluginMode);
 
 private:
-    void handOn(const QStringList &words, bool merging);
+    void handOn(const QStringList &entries, bool merging);
     void announce(const GatheredInput &input, bool merging);
 
-    QStringList m_words;
+    QStringList m_arguments;
     bool m_started = false;
     QList<QStringList> m_mergedBeforeStart;
     QString m_currentImage;

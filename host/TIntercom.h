@@ -45,7 +45,7 @@ public:
 
 Q_SIGNALS:
     void isServerChanged();
-    /// A message of another instance: what stands behind the key.
+    /// A message of another instance: what follows the key.
     void mergeInstance(const QString &data);
 
 private:

@@ -12,8 +12,8 @@ import WindowsThemeListener
 import PebbleUI
 import imageenhance
 
-// The window: a table of contents. Makes the long-lived objects and joins them; what each does stands in a document
-// of its own name. The objects that the entry provides are read here alone.
+// The window: a table of contents. Makes the long-lived objects and joins them; what each does is in a document
+// of its own name. The objects that the entry point provides are read here alone.
 ApplicationWindow {
     id: appWindow
 

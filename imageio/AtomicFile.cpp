@@ -89,7 +89,7 @@ QString AtomicFile::begin(const QString &target) {
     return {};
 }
 
-QString AtomicFile::systemTrouble() const {
+QString AtomicFile::systemError() const {
     return sentence(platform::appendZeros(m_temporary));
 }
 

@@ -23,7 +23,7 @@ public:
 
     /// After a failed write: a sentence when the file system refuses more data (disk full, quota,
     /// size limit, folder gone), else empty.
-    QString systemTrouble() const;
+    QString systemError() const;
 
 private:
     QString m_target;

@@ -128,7 +128,7 @@ void startMetadataLibrary() {
     });
 }
 
-void readSoundPart(Exiv2::Image &image, const QString &path) {
+void readIntactPart(Exiv2::Image &image, const QString &path) {
     try {
         image.readMetadata();
     } catch (const std::exception &e) {
@@ -142,7 +142,7 @@ CameraMetadata readCameraMetadata(const QString &path) {
     CameraMetadata result;
     try {
         const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-        readSoundPart(*image, path);
+        readIntactPart(*image, path);
         if (image->iccProfileDefined()) {
             const Exiv2::DataBuf &icc = image->iccProfile();
             result.icc = QByteArray(reinterpret_cast<const char *>(icc.c_data()), qsizetype(icc.size()));

@@ -9,7 +9,7 @@ class Image;
 
 namespace imageio {
 
-/// What the text part of a file says. Keys of `fields`, each present only when the file tells it:
+/// What the text part of a file says. Keys of `fields`, each present only when the file has it:
 /// "make", "model", "lens", "dateTime", "software", "artist", "copyright", "uniqueCameraModel",
 /// "iso", "exposureTime" (seconds), "fNumber", "focalLength" (millimetres), "focalLength35",
 /// "exposureBias", "flash", "latitude" and "longitude" (degrees, north and east positive).
@@ -26,7 +26,7 @@ struct CameraMetadata {
 CameraMetadata readCameraMetadata(const QString &path);
 
 /// Reads a file's metadata up to where it is damaged, and says in the log when it is.
-void readSoundPart(Exiv2::Image &image, const QString &path);
+void readIntactPart(Exiv2::Image &image, const QString &path);
 
 /// Prepares the metadata library for use from several threads; called by everything that uses it.
 void startMetadataLibrary();

@@ -38,7 +38,7 @@ public:
     FileBackend() {
         // Only the plug-in that was asked for may look at a file.
         OIIO::attribute("try_all_readers", 0);
-        // It tells standard error of each oddity; results tell us.
+        // It writes each oddity to standard error; results say enough.
         TIFFSetErrorHandler(nullptr);
         TIFFSetWarningHandler(nullptr);
         imageio::startMetadataLibrary();

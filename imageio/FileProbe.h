@@ -22,7 +22,7 @@ struct FileFacts {
     QString error; ///< a sentence, empty when the file may be given to its decoder
     FileKind kind = FileKind::Unknown;
     qint64 fileSize = 0;
-    qint64 width = 0; ///< as stored, before orientation; 0 for RAW, whose decoder tells
+    qint64 width = 0; ///< as stored, before orientation; 0 for RAW, whose decoder finds it
     qint64 height = 0;
     int channels = 0;
     int bits = 0; ///< per channel
@@ -36,11 +36,11 @@ struct FileFacts {
     std::vector<FileMask> masks; ///< hides all metadata from the image library
 };
 
-/// Tells the kind by content, with the name deciding only between a TIFF and the camera formats
+/// Determines the kind by content, with the name deciding only between a TIFF and the camera formats
 /// built on it, reads the header and applies the decode limits.
 FileFacts probeFile(const QString &path);
 
-/// The library plug-in name of a kind, and its name for people.
+/// The library plug-in name of a kind, and the name that users see.
 const char *pluginName(FileKind kind);
 QString kindName(FileKind kind);
 

@@ -97,8 +97,8 @@ Opened openPicture(const QString &path, int leastSide, const RunControl &control
     // The container's figure is often rounded; EXIF is taken where both mean the same.
     const auto perInch = [](double value, int unit) { return unit == 3 ? value * 2.54 : value; };
     const double known = perInch(opened.metadata.resolution, opened.metadata.resolutionUnit);
-    const double told = perInch(decoded.resolution, decoded.resolutionUnit);
-    if (told > 0 && std::abs(told / known - 1) > 0.01) {
+    const double stated = perInch(decoded.resolution, decoded.resolutionUnit);
+    if (stated > 0 && std::abs(stated / known - 1) > 0.01) {
         opened.metadata.resolution = decoded.resolution;
         opened.metadata.resolutionUnit = decoded.resolutionUnit;
     }

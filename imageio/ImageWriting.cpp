@@ -20,8 +20,8 @@ constexpr double EncodingShare = 0.85;
 
 /// The reason the system gives, where it refuses to take more data, else that of the writer.
 QString failure(const AtomicFile &file, const QString &reason) {
-    const QString trouble = file.systemTrouble();
-    return trouble.isEmpty() ? reason : trouble;
+    const QString error = file.systemError();
+    return error.isEmpty() ? reason : error;
 }
 
 RunControl share(const RunControl &control, double from, double to) {

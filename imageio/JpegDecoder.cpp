@@ -22,7 +22,7 @@ namespace {
 constexpr int MaxScans = 1000;
 constexpr int RowsPerCall = 32;
 
-enum class Trouble { None, Library, Damaged, EndsEarly, TooManyScans, Cancelled, Memory };
+enum class Failure { None, Library, Damaged, EndsEarly, TooManyScans, Cancelled, Memory };
 
 /// Everything that outlives a longjmp out of the library.
 struct Session {
@@ -30,7 +30,7 @@ struct Session {
     jpeg_error_mgr errors{};
     jpeg_progress_mgr progress{};
     std::jmp_buf escape;
-    Trouble trouble = Trouble::None;
+    Failure failure = Failure::None;
     bool sawEnd = false;
     std::array<char, JMSG_LENGTH_MAX> message{};
     std::FILE *file = nullptr;
@@ -49,15 +49,15 @@ Session &session(j_common_ptr info) {
     return *static_cast<Session *>(info->client_data);
 }
 
-[[noreturn]] void leave(j_common_ptr info, Trouble trouble) {
-    session(info).trouble = trouble;
+[[noreturn]] void leave(j_common_ptr info, Failure failure) {
+    session(info).failure = failure;
     std::longjmp(session(info).escape, 1);
 }
 
 void onError(j_common_ptr info) {
     Session &s = session(info);
     (*info->err->format_message)(info, s.message.data());
-    leave(info, info->err->msg_code == JERR_OUT_OF_MEMORY ? Trouble::Memory : Trouble::Library);
+    leave(info, info->err->msg_code == JERR_OUT_OF_MEMORY ? Failure::Memory : Failure::Library);
 }
 
 /// The library goes on after damage and fills the rest with grey. Stray bytes between markers are
@@ -70,7 +70,7 @@ void onMessage(j_common_ptr info, int level) {
         session(info).sawEnd = true;
         break;
     case JWRN_HIT_MARKER:
-        leave(info, session(info).sawEnd ? Trouble::EndsEarly : Trouble::Damaged);
+        leave(info, session(info).sawEnd ? Failure::EndsEarly : Failure::Damaged);
     case JWRN_ADOBE_XFORM:
     case JWRN_BOGUS_ICC:
     case JWRN_EXTRANEOUS_DATA:
@@ -79,15 +79,15 @@ void onMessage(j_common_ptr info, int level) {
     case JWRN_TOO_MUCH_DATA:
         break;
     default:
-        leave(info, Trouble::Damaged);
+        leave(info, Failure::Damaged);
     }
 }
 
 void onProgress(j_common_ptr info) {
     if (session(info).control->stopped())
-        leave(info, Trouble::Cancelled);
+        leave(info, Failure::Cancelled);
     if (session(info).info.input_scan_number > MaxScans)
-        leave(info, Trouble::TooManyScans);
+        leave(info, Failure::TooManyScans);
 }
 
 void quiet(j_common_ptr) {
@@ -123,7 +123,7 @@ void run(Session &s, const FileFacts &facts, const QByteArray &icc, int shrink) 
     jpeg_stdio_src(&s.info, s.file);
     jpeg_read_header(&s.info, TRUE);
     if (s.info.image_width != JDIMENSION(facts.width) || s.info.image_height != JDIMENSION(facts.height))
-        leave(j_common_ptr(&s.info), Trouble::Damaged);
+        leave(j_common_ptr(&s.info), Failure::Damaged);
     const bool grey = s.info.num_components == 1;
     const bool cmyk = s.info.num_components == 4;
     s.info.out_color_space = cmyk ? JCS_CMYK : (grey ? JCS_GRAYSCALE : JCS_RGB);
@@ -134,30 +134,30 @@ void run(Session &s, const FileFacts &facts, const QByteArray &icc, int shrink) 
                               8, cmyk ? ColourModel::Cmyk : (grey ? ColourModel::Grey : ColourModel::Rgb),
                               s.info.saw_Adobe_marker != 0, false, icc});
     if (!s.sink->image())
-        leave(j_common_ptr(&s.info), Trouble::Memory);
+        leave(j_common_ptr(&s.info), Failure::Memory);
     s.buffer.resize(s.sink->direct() ? 0
                                      : std::size_t(s.info.output_width) *
                                            std::size_t(s.info.output_components) * RowsPerCall);
     readRows(s);
     // A file of several scans that ends between two of them decodes to a coarse picture.
     if (s.sawEnd && (s.info.progressive_mode || s.info.comps_in_scan != s.info.num_components))
-        leave(j_common_ptr(&s.info), Trouble::EndsEarly);
+        leave(j_common_ptr(&s.info), Failure::EndsEarly);
 }
 
 QString sentence(const Session &s) {
-    switch (s.trouble) {
-    case Trouble::Library:
+    switch (s.failure) {
+    case Failure::Library:
         return Text::tr("The JPEG data can't be decoded: %1.").arg(QString::fromLatin1(s.message.data()));
-    case Trouble::Damaged:
+    case Failure::Damaged:
         return Text::tr("The JPEG data is damaged.");
-    case Trouble::EndsEarly:
+    case Failure::EndsEarly:
         return limits::endsTooEarly();
-    case Trouble::TooManyScans:
+    case Failure::TooManyScans:
         return Text::tr("The JPEG data has more than %1 passes.").arg(MaxScans);
-    case Trouble::Memory:
+    case Failure::Memory:
         return Text::tr("There is not enough memory for this picture.");
-    case Trouble::Cancelled:
-    case Trouble::None:
+    case Failure::Cancelled:
+    case Failure::None:
         break;
     }
     return {};
@@ -182,9 +182,9 @@ Decoded decodeJpeg(const QString &path, const FileFacts &facts, const QByteArray
     s.errors.output_message = quiet;
     s.progress.progress_monitor = onProgress;
     run(s, facts, icc, shrink);
-    result.cancelled = s.trouble == Trouble::Cancelled;
+    result.cancelled = s.failure == Failure::Cancelled;
     result.error = sentence(s);
-    if (s.trouble == Trouble::None) {
+    if (s.failure == Failure::None) {
         result.image = s.sink->image();
         if (s.info.density_unit != 0 && s.info.X_density > 1) {
             result.resolution = s.info.X_density;

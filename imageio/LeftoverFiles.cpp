@@ -14,7 +14,7 @@ namespace imageio {
 namespace {
 
 QString hostPrefix() {
-    static const QString prefix = QStringLiteral(".orvane-%1-").arg(platform::hostMark());
+    static const QString prefix = QStringLiteral(".orvane-%1-").arg(platform::hostId());
     return prefix;
 }
 
@@ -44,7 +44,7 @@ void removeLeftovers(const QString &folder) {
     while (entries.hasNext()) {
         const QString path = entries.next();
         const QRegularExpressionMatch match = pattern.match(entries.fileName());
-        if (!match.hasMatch() || platform::processLives(match.captured(1).toLongLong()) ||
+        if (!match.hasMatch() || platform::processExists(match.captured(1).toLongLong()) ||
             !platform::isOwnFile(path))
             continue;
         platform::removeFile(path);

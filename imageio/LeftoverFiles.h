@@ -4,7 +4,7 @@
 
 namespace imageio {
 
-/// What the names of this process's temporary files begin with: hidden, and telling host and process.
+/// What the names of this process's temporary files begin with: hidden, and naming host and process.
 QString temporaryPrefix();
 
 /// On the first call for a folder, removes the temporary files that processes of this host left in `folder`

@@ -64,7 +64,7 @@ Packets readSource(const QString &path, OutputKind kind) {
         return packets;
     try {
         const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-        readSoundPart(*image, path);
+        readIntactPart(*image, path);
         for (const Exiv2::Exifdatum &datum : image->exifData()) {
             if (!describesOldPixels(datum, kind))
                 packets.exif.add(datum);

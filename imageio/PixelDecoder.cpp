@@ -85,14 +85,14 @@ Decoded decodePixels(const QString &path, const FileFacts &facts, const QByteArr
         result.error = QStringLiteral("%1 files can't be opened on this system.").arg(kindName(facts.kind));
         return result;
     }
-    OIIO::ImageSpec wish;
-    wish.attribute("oiio:UnassociatedAlpha", 1);
+    OIIO::ImageSpec config;
+    config.attribute("oiio:UnassociatedAlpha", 1);
     if (facts.cmyk)
-        wish.attribute("oiio:RawColor", 1);
+        config.attribute("oiio:RawColor", 1);
     if (input->supports("ioproxy"))
         input->set_ioproxy(&file);
     OIIO::ImageSpec spec;
-    if (!input->open(path.toStdString(), spec, wish)) {
+    if (!input->open(path.toStdString(), spec, config)) {
         result.error = libraryError(*input, facts);
         return result;
     }

@@ -11,7 +11,7 @@ namespace imageio {
 /// picture of half the sides quickly.
 Decoded developRaw(const QString &path, bool halfSize, const RunControl &control);
 
-/// Upright size of the developed picture from the header; empty when it can't be told.
+/// Upright size of the developed picture from the header; empty when it is unknown.
 QSize rawSize(const QString &path);
 
 } // namespace imageio

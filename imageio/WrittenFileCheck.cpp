@@ -82,11 +82,11 @@ QString checkWrittenFile(const QString &path, const ImageData &image, const Enco
     const bool lossless = plan.kind == OutputKind::Png || plan.kind == OutputKind::Tiff;
     if (!lossless)
         return {};
-    OIIO::ImageSpec wish;
-    wish.attribute("oiio:UnassociatedAlpha", 1);
+    OIIO::ImageSpec config;
+    config.attribute("oiio:UnassociatedAlpha", 1);
     OIIO::ImageSpec spec;
     const auto input = OIIO::ImageInput::create(pluginName(facts.kind));
-    if (!input || !input->open(path.toStdString(), spec, wish) || spec.nchannels != plan.channels ||
+    if (!input || !input->open(path.toStdString(), spec, config) || spec.nchannels != plan.channels ||
         !pixelsMatch(*input, image, plan))
         return differs(QT_TRANSLATE_NOOP("ImageFiles", "picture"));
     return {};

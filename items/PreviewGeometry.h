@@ -4,7 +4,7 @@
 #include <QSizeF>
 #include <QTransform>
 
-/// Where a picture stands in an item that shows its crop. All lengths of `imageSize`, `cropRect` (fractions
+/// Where a picture lies in an item that shows its crop. All lengths of `imageSize`, `cropRect` (fractions
 /// of it) and `pictureRect` are pixels of the whole picture as enlarged; `rotation` is in radians, clockwise.
 struct PreviewGeometry {
     QSizeF itemSize;

@@ -5,7 +5,7 @@
 #include <QQmlListProperty>
 #include <QtQmlIntegration/qqmlintegration.h>
 
-/// Keeps trackers at one value: changes of the leader reach the others, changes of a follower reach nobody.
+/// Keeps trackers at one value: changes of the leader reach the others, those of a follower reach none.
 /// The first tracker leads until another is chosen.
 class PropertyLinker : public QObject {
     Q_OBJECT

@@ -56,7 +56,7 @@ void TSelectionPreview::setSrgbFallback(bool on) {
         return;
     m_srgbFallback = on;
     m_loader.setTakenForSrgb(on);
-    makeTilesAnew();
+    remakeTiles();
     m_imageChanged = true;
     changed();
     Q_EMIT srgbFallbackChanged();
@@ -159,10 +159,10 @@ void TSelectionPreview::geometryChange(const QRectF &now, const QRectF &before) 
 
 // The scene graph is going.
 void TSelectionPreview::releaseResources() {
-    makeTilesAnew();
+    remakeTiles();
 }
 
-void TSelectionPreview::makeTilesAnew() {
+void TSelectionPreview::remakeTiles() {
     const ImageRef image = m_loader.image();
     m_loader.setImage(nullptr);
     m_loader.setImage(image);

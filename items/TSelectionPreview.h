@@ -27,7 +27,7 @@ class TSelectionPreview : public QQuickItem {
     Q_PROPERTY(double viewportEndX READ viewportEndX WRITE setViewportEndX NOTIFY geometryPropertyChanged)
     /// The item whose bounds are the viewport; the window's content when null.
     Q_PROPERTY(QQuickItem *viewport READ viewport WRITE setViewport NOTIFY geometryPropertyChanged)
-    /// Whether every tile that is in sight stands at its full reduction.
+    /// Whether every visible tile is there at the level that the zoom asks for.
     Q_PROPERTY(bool complete READ isComplete NOTIFY completeChanged)
 public:
     explicit TSelectionPreview(QQuickItem *parent = nullptr);
@@ -75,7 +75,7 @@ private:
     };
     View currentView() const;
     void followWindow();
-    void makeTilesAnew();
+    void remakeTiles();
     void changed();
 
     QVariantMap m_imageData;

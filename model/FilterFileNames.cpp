@@ -51,7 +51,7 @@ QString TImageSettings::filterNamesForFilename() const {
             continue;
         if (name.contains(Categories::Inpaint) && hasRemoval(found->params))
             names += "-remove"_L1;
-        // The hyphen stands for every active filter, also for one without a suffix: the string tells
+        // The hyphen stands for every active filter, also for one without a suffix: the string says
         // whether any filter is active.
         names += u'-' + suffixOf(name, found->params);
     }

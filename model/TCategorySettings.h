@@ -19,7 +19,7 @@ struct TCategorySettings {
     /// The five-key map `{ category, model, params, enabled, subjectSettings }`.
     QVariantMap toMap() const;
 
-    /// Lays a map over this filter and tells whether anything changed. Parameters may stand under
+    /// Lays a map over this filter and returns whether anything changed. Parameters may be under
     /// "params" or flat beside the fixed keys. Never removes a key.
     bool merge(const QVariantMap &map);
 
@@ -35,7 +35,7 @@ struct TCategorySettings {
     /// Puts the subject back to the start values with the given subject type.
     void resetSubject(const QString &type);
 
-    /// This filter as one of the other denoise family, "RAW" or "Denoise"; as it stands when it is
+    /// This filter as one of the other denoise family, "RAW" or "Denoise"; unchanged when it is
     /// not of the family to convert from.
     QVariantMap toRawDenoise() const;
     QVariantMap fromRawDenoise() const;

@@ -14,7 +14,7 @@
 /// The open images and everything decided about each: filters, models, parameters, order, Autopilot,
 /// subjects, crop. Readers hand out maps built on each read; every operation fires its signals by hand.
 ///
-/// An argument called `category` is a filter name ("Denoise2") unless a `filterName` stands beside it.
+/// An argument called `category` is a filter name ("Denoise2") unless there is a `filterName` beside it.
 /// "The current image" without one is a default record under the empty path. An empty `imagePath`
 /// means the current image where nothing else is said. A bad index is logged and changes nothing.
 /// Lives on the GUI thread.

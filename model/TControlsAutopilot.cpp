@@ -8,7 +8,7 @@ void TControls::landAutopilot(const QVariantMap &answer, bool recommendFilters, 
         addFirstFilters(recommendFilters);
 }
 
-// The flags stand before the order is announced: who hears of it finds the record as it stays.
+// The flags are set before the order is announced: whoever hears of it finds the record as it stays.
 void TControls::addFirstFilters(bool recommendFilters) {
     const TImageSettings before = currentSettings();
     const bool visitedBefore = before.initialFiltersApplied && !before.applyAutopilotOnceCalculated;

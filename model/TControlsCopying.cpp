@@ -32,7 +32,7 @@ void TControls::setControls(qint64 index, const QVariantMap &controls, bool forc
 bool TControls::applyCurrentControlsToImage(const QString &imagePath, bool allowEmit) {
     if (imagePath.isEmpty())
         return false;
-    // Both as they were before: what is told of the target's faces and RAW filter must be read
+    // Both as they were before: the target's faces and RAW filter decide something here and must be read
     // before its filters go, and the current image may be the target itself.
     const TImageSettings source = std::as_const(*this).currentSettings();
     TImageSettings &target = settingsOf(imagePath);

@@ -8,7 +8,7 @@
 #include <QtQmlIntegration/qqmlintegration.h>
 
 /// Everything decided about one image. A value over shared containers: copies are cheap. Writers
-/// tell whether they changed something and mark a change then; see markChanged().
+/// return whether they changed something and mark a change then; see markChanged().
 struct TImageSettings {
     Q_GADGET
 public:
@@ -29,7 +29,7 @@ public:
     QStringList filterOrder;                     ///< filter names; may name filters without a record
     QList<QVariantMap> autoPilotSuggestionOrder; ///< `{ filterName, subject }` each
     bool justSaved = false;                      ///< exported, and no change marked since
-    bool presetApplied = false;                  ///< stays up
+    bool presetApplied = false;                  ///< stays set
     bool presetAppliedNoModifications = false;   ///< a preset, and no change marked since
     bool initialFiltersApplied = false;          ///< the first set of filters was put on
     Autopilot::Level noise_level = Autopilot::Level::Unknown;
@@ -65,7 +65,7 @@ public:
     bool setNoiseLevel(Autopilot::Level level);
     bool setBlurLevel(Autopilot::Level level);
     bool isAutopilotCalculated() const { return !autoPilotSettings.isEmpty(); }
-    /// Keeps Autopilot's answer in its normal form: flat parameters stand under "params", too.
+    /// Keeps Autopilot's answer in its normal form: flat parameters are under "params", too.
     void setAutopilotSettings(const QVariantMap &settings);
     /// Replaces all filters by those that Autopilot enables, in the order of their names.
     void applyAutopilot();

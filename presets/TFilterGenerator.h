@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QtQmlIntegration/qqmlintegration.h>
 
-/// Suggests the filter that people most often took next, from a table of counts. Knows nothing of the
+/// Suggests the filter that users most often took next, from a table of counts. Knows nothing of the
 /// image. A filter is written as its category, a hyphen and the subject: "Sharpen-Subject", "Enhance-".
 class TFilterGenerator : public QObject {
     Q_OBJECT

@@ -6,11 +6,11 @@
 #include <functional>
 #include <optional>
 
-/// Tells, once for each volume and level, when a volume that work needs runs short of space.
+/// Reports, once for each volume and level, when a volume that work needs runs short of space.
 class DiskSpaceWatch {
 public:
     struct Volume {
-        QString root;          ///< where it is mounted; tells volumes apart, which names need not
+        QString root;          ///< where it is mounted; unique, which names need not be
         QString name;          ///< as the user knows it
         qint64 bytesFree = -1; ///< negative: unknown
     };
@@ -23,7 +23,7 @@ public:
     static constexpr qint64 LowBytes = 5'000'000'000;
     static constexpr qint64 CriticalBytes = 1'000'000'000;
 
-    /// Asks the operating system unless told whom to ask.
+    /// Asks the operating system unless given something else to ask.
     DiskSpaceWatch();
     explicit DiskSpaceWatch(Probe probe)
         : m_probe(std::move(probe)) {}

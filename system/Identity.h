@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Who made this program and what it is called: the address of its settings, and the words of its
+/// Who made this program and what it is called: the address of its settings, and the names in its
 /// title, log and folders.
 namespace Identity {
 

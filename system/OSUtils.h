@@ -41,8 +41,8 @@ public:
     /// Frame of the program's first window; an empty rectangle without one.
     Q_INVOKABLE static QRect geometry();
     /// Places that window. The rectangle is that of the content below a title bar of the system's,
-    /// TitleBarHeight high; a window that draws its own stands higher by as much, so that what geometry()
-    /// told comes back. One that no screen would show any more, and an empty one, is centred.
+    /// TitleBarHeight high; a window that draws its own is higher by as much, so that what geometry()
+    /// gave comes back. One that no screen would show any more, and an empty one, is centred.
     Q_INVOKABLE static void setGeometry(const QRect &content);
     static constexpr int TitleBarHeight = 31;
 

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Where this program keeps files that may go at any time. One folder for each user below the
+/// Where this program keeps files that may be deleted at any time. One folder for each user below the
 /// system's temporary folder, readable by that user alone.
 namespace TempFolders {
 

@@ -38,7 +38,7 @@ T.AbstractButton {
         return PbFocusRings.of(_top, background, PebbleStyle.size.mediumRadius);
     }
 
-    // One of the style's colours, as the button stands.
+    // One of the style's colours, by the button's state.
     function _shade(colors: PbStateColors): color {
         return PbButtonStyles.shade(colors, enabled, _lit, selected);
     }

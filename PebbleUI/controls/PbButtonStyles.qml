@@ -3,7 +3,7 @@ pragma Singleton
 import QtQuick
 import PebbleUI
 
-// The colours of every type of button. Each label stands at 4.5 to 1 or better on its background, in
+// The colours of every type of button. Each label has a contrast of 4.5 to 1 or better, in
 // both themes and in every state but disabled.
 QtObject {
     id: _top
@@ -92,7 +92,7 @@ QtObject {
         }
     }
 
-    // One colour, as a control stands. The first that holds counts: disabled, hovered, selected, normal.
+    // One colour, by a control's state. The first that holds counts: disabled, hovered, selected, normal.
     function shade(colors: PbStateColors, isEnabled: bool, isHovered: bool, isSelected: bool): color {
         return !isEnabled ? colors.disabled : isHovered ? colors.hovered : isSelected ? colors.selected : colors.normal;
     }

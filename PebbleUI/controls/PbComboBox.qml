@@ -17,7 +17,7 @@ T.ComboBox {
     property int textAlignment: Text.AlignLeft
     property int textElide: Text.ElideRight
 
-    // The value that Autopilot proposes; its row wears the dot. Null: none.
+    // The value that Autopilot proposes; its row has the dot. Null: none.
     property var autoValue: null
     property int outline: PbComboBox.Outline.None
     property int type: PbComboBox.Type.Default

@@ -1,7 +1,7 @@
 import QtQuick
 import PebbleUI
 
-// The box that a choice stands in. An outline tells of a warning or an error.
+// The box around a choice. An outline marks a warning or an error.
 PbBox {
     id: _top
 

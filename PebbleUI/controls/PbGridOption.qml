@@ -22,7 +22,7 @@ T.AbstractButton {
     readonly property color _noteInk: selected || hovered || down ? _ink : PebbleStyle.color.lighterGray
     readonly property string _valueText: showValue ? String(value ?? "") : ""
 
-    // One of the style's colours, as the option stands.
+    // One of the style's colours, by the option's state.
     function _shade(colors: PbStateColors): color {
         return PbButtonStyles.shade(colors, enabled, hovered || down, selected);
     }

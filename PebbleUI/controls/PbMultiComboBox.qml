@@ -4,7 +4,7 @@ import QtQuick
 import PebbleUI
 
 // A choice of any number of rows. The list stays open while rows are switched; Space, Return and Enter
-// switch the highlighted one. `activated` tells of each switch by the user.
+// switch the highlighted one. `activated` reports each switch by the user.
 PbComboBox {
     id: _top
 

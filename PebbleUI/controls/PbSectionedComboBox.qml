@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import PebbleUI
 
-// A choice whose rows stand in sections. An entry `{ section: true, text }` heads one; with a null text it
+// A choice whose rows are in sections. An entry `{ section: true, text }` heads one; with a null text it
 // is a rule. Nothing can rest on such an entry: whatever leads there ends at the last row chosen.
 PbComboBox {
     id: _top

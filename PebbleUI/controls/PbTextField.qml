@@ -95,7 +95,7 @@ T.TextField {
         }
     }
 
-    // The toolkit clips what a field draws, and so draws each by itself, which is dear in a panel full of them.
+    // The toolkit clips what a field draws, and so draws each by itself, which is expensive in a panel full of them.
     PbInk.shown: _private.inUse
 
     PbRestingText {

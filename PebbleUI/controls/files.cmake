@@ -1,4 +1,4 @@
-# What a control does stands in controls/behaviour, how it looks in controls.
+# What a control does is in controls/behaviour, how it looks in controls.
 list(APPEND PEBBLE_QML
   controls/PbAutoPilotDot.qml
   controls/PbBusySpinner.qml

@@ -19,7 +19,7 @@ Dialog {
                                                              : PebbleStyle.size.dialogTopMargin
     property string messageText: ""
 
-    // Plain unless told otherwise, so that text from outside cannot become markup.
+    // Plain unless set otherwise, so that text from outside cannot become markup.
     property int messageFormat: Text.PlainText
 
     parent: Overlay.overlay

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import PebbleUI
 
-// The ring round what has the keyboard. It stands outside its parent by a small gap, so that it shows
+// The ring round what has the focus. It lies outside its parent by a small gap, so that it shows
 // on a filled button as well as on a bare one.
 Rectangle {
     id: _top

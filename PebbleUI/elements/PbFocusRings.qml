@@ -5,8 +5,8 @@ import QtQml
 import QtQuick
 import PebbleUI
 
-// Makes the ring round a control when the keyboard first comes there: of all the controls of a window
-// one at a time wears it, and most never do.
+// Makes the ring round a control when that first gets the focus: of all the controls of a window
+// one at a time shows it, and most never do.
 QtObject {
     id: _top
 

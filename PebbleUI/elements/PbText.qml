@@ -2,7 +2,7 @@ import QtQuick
 import PebbleUI
 
 // Text in one of the library's roles, as part of a control that speaks for it. Plain text unless `textFormat`
-// says otherwise. Not a label: those cost twice as much, and a tooltip is made of texts.
+// says otherwise. Not a label: those cost twice as much, and a tooltip consists of texts.
 Text {
     id: _top
 

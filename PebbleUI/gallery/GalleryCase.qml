@@ -8,7 +8,7 @@ Item {
     required property string name
 
     // Shows the control's own focus ring, though the keyboard is elsewhere.
-    property bool ringed: false
+    property bool showsFocusRing: false
     default property alias content: _slot.data
 
     // `item` is any Item; only some controls have the function.
@@ -22,7 +22,7 @@ Item {
     implicitWidth: 304
     implicitHeight: Math.max(_name.height, _slot.height)
     Component.onCompleted: {
-        if (ringed)
+        if (showsFocusRing)
             _reveal(_slot);
     }
 

@@ -8,7 +8,7 @@ import PebbleUI
 Menu {
     id: _top
 
-    // Where a small pointer stands: along the top when positive, down the left side, as sub-menus have it,
+    // Where a small pointer is: along the top when positive, down the left side, as sub-menus have it,
     // when negative. Zero for none.
     property real pivot: 0
 

@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Shapes
 import PebbleUI
 
-// A menu's panel and its pointer. The pointer stands outside the panel, towards what opened the menu.
+// A menu's panel and its pointer. The pointer lies outside the panel, towards what opened the menu.
 Item {
     id: _top
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import PebbleUI
 
-// What stands in a row of a menu: check mark or icon, text, Autopilot's dot, the key.
+// The content of a menu's row: check mark or icon, text, Autopilot's dot, the key.
 RowLayout {
     id: _top
 

@@ -26,7 +26,7 @@ private:
     QColor m_color = Qt::black;
 };
 
-// A rectangle with round corners and a border, for what stands behind a control's text. The toolkit's own is
+// A rectangle with round corners and a border, for what lies behind a control's text. The toolkit's own is
 // one half transparent figure, and no text over one can be drawn together with the text over another; here
 // only the corners are, so that a panel's boxes, texts and icons take a few drawing steps and not one each.
 class PbBox : public QQuickItem {

@@ -4,7 +4,7 @@ import QtQuick
 // use PebbleStyle.
 //
 // The ramp runs from light (base10) to dark (base100). Between the anchors 10, 20, 30, 35, 70 and 80
-// the steps are interpolated evenly; base90 stands off the line on purpose: it is the raised surface.
+// the steps are interpolated evenly; base90 is off the line on purpose: it is the raised surface.
 // An alpha variant adds "o" and the percentage: base10o48 is base10 at 48 %.
 QtObject {
     id: _top

@@ -12,8 +12,8 @@ public:                                                                         
         return QColor::fromRgba(m_darkMode ? dark : light);                                                  \
     }
 
-// The colours by role. A grey's name says how far it stands from the page, not how light it is: in the light
-// theme the greys turn round. What begins with an underscore is for the roles only.
+// The colours by role. A grey's name says how far it is from the page, not how light it is: in the light
+// theme the greys are reversed. What begins with an underscore is for the roles only.
 class PbColors : public PbThemed {
     Q_OBJECT
     QML_ELEMENT
@@ -64,7 +64,7 @@ class PbColors : public PbThemed {
     PB_COLOR(textHoverDark, Black, White)
     PB_COLOR(textDisabled, Gray6, Gray4)
     PB_COLOR(textSecondary, Gray4, Gray5)
-    // What stands in a field and is no value: placeholders, labels, units.
+    // What is in a field and no value: placeholders, labels, units.
     PB_COLOR(textQuiet, Gray4, Gray6)
     PB_COLOR(textWarning, Yellow, Gray8)
     PB_COLOR(textError, Red, Gray8)

@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import PebbleUI
 
 // Laid over an area, shows a tooltip while the pointer is over it, and while the control that it lies in
-// has the keyboard by way of the keyboard. Disabled, so that clicks pass.
+// got the focus from the keyboard. Disabled, so that clicks pass.
 Item {
     id: _top
 
@@ -15,7 +15,7 @@ Item {
     property string title: ""
     property string text: ""
 
-    // Plain unless told otherwise, so that text from outside cannot become markup.
+    // Plain unless set otherwise, so that text from outside cannot become markup.
     property int textFormat: Text.PlainText
     property int alignment: PbTooltipPlane.Alignment.Top
     property real offsetX: 0

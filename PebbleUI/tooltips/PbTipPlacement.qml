@@ -1,11 +1,11 @@
 import QtQuick
 import PebbleUI
 
-// Where a tooltip stands beside its target, in the plane's coordinates. Knows no items.
+// Where a tooltip goes beside its target, in the plane's coordinates. Knows no items.
 QtObject {
     id: _top
 
-    // As in PbTooltipPlane.Alignment; named here once more, since the plane is made of this.
+    // As in PbTooltipPlane.Alignment; named here once more, since the plane is built from this.
     enum Side { Top, Right, Bottom, Left }
 
     property real spacing: PebbleStyle.size.tipSpacing

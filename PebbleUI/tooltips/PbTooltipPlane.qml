@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import PebbleUI
 
-// Laid over a window, or over a dialog's content, so that tooltips stand above everything in it. Takes no
+// Laid over a window, or over a dialog's content, so that tooltips are above everything in it. Takes no
 // clicks. Shows one tip at a time.
 Item {
     id: _top
@@ -86,7 +86,7 @@ Item {
         onWidthChanged: place()
         onHeightChanged: place()
 
-        // A tip does not outlive what it speaks of.
+        // A tip does not outlive what it describes.
         onTargetChanged: {
             if (!target && _private.tip === _tip)
                 _top.hideCurrentTip();

@@ -1,4 +1,4 @@
-# Tooltips and the plane they appear in. Where one stands is decided in PbTipPlacement, without a window.
+# Tooltips and the plane they appear in. Where one goes is decided in PbTipPlacement, without a window.
 list(APPEND PEBBLE_QML
   tooltips/PbHoverTip.qml
   tooltips/PbTipPlacement.qml

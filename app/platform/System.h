@@ -12,7 +12,7 @@ void setConsoleUtf8();
 bool debuggerAttached();
 void writeToDebugger(const QString &text);
 
-/// Absolute path of the running program; empty when the system won't tell.
+/// Absolute path of the running program; empty when the system doesn't say.
 QString executablePath();
 
 /// The value `ModelDir` that an installer left for every user of this machine; empty when there is none.

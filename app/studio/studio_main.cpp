@@ -82,7 +82,7 @@ int run(int argc, char **argv, const QString &logDirectory, const Directories::E
     prepareInterface();
     Interface ui(application, integrations, *intercom, Directories::installRoot(environment), logDirectory);
     const int result = QApplication::exec();
-    // What is open is written down while the interface still stands: its end may go wrong.
+    // What is open is written down while the interface still exists: its end may go wrong.
     ui.session().saveFileList();
     integrations.cleanup();
     qInfo() << "Exiting app:" << result;
@@ -92,8 +92,8 @@ int run(int argc, char **argv, const QString &logDirectory, const Directories::E
 
 } // namespace
 
-// The window's entry. "--help", "--log", "-v" and "--verbose" belong to the console program and change
-// nothing here; every other word goes to TIntegrations.
+// The window's entry point. "--help", "--log", "-v" and "--verbose" belong to the console program and change
+// nothing here; every other argument goes to TIntegrations.
 int main(int argc, char **argv) {
     const QStringList arguments = rawArguments(argc, argv);
     const bool recover = arguments.contains(u"--recover"_s);

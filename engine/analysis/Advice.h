@@ -61,7 +61,7 @@ using ValueOf = std::function<std::optional<double>(const ModelDefinition &, con
 ValueOf byRole(const QMap<QString, double> &values);
 
 /// Gives the parameters of every model of the category a value within their ranges, so that a model chosen
-/// by hand starts well, too. Where models share a name, the recommended model's value stands.
+/// by hand starts well, too. Where models share a name, the recommended model's value counts.
 void adviseParameters(const AdviceInput &input, const ValueOf &valueOf, Advice &advice);
 
 /// The strength at which the model takes away what was measured, in the units of ModelDefinition::reach;

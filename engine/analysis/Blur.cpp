@@ -19,7 +19,7 @@ struct TileWidth {
 };
 
 /// From the smallest copy up to the first one on which the edges are wide; where none is, the largest
-/// that has edges tells. Nothing where there are none.
+/// that has edges counts. Nothing where there are none.
 std::optional<TileWidth> widthOfTile(const TileEdges &edges, std::size_t tile, float noise) {
     std::optional<TileWidth> found;
     for (std::size_t k = EdgeScales; k-- > 0;) {

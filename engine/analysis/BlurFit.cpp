@@ -88,13 +88,13 @@ BlurFit::Terms8 BlurFit::guess(const std::vector<double> &shares) const {
         sum += power / std::max(shares[i], 1e-3) * std::exp(-Usual[1] * m_bins[i].terms[1]);
         ++count;
     }
-    Terms8 world = Usual;
-    world[0] = std::log(std::max(sum / std::max(1, count), LowestPower));
-    return world;
+    Terms8 scene = Usual;
+    scene[0] = std::log(std::max(sum / std::max(1, count), LowestPower));
+    return scene;
 }
 
-/// The error of this world seen through the kernel, and the way to a better one.
-double BlurFit::evaluate(const Terms8 &world, const std::vector<double> &shares, Terms8 *step) const {
+/// The error of this scene seen through the kernel, and the step to a better one.
+double BlurFit::evaluate(const Terms8 &scene, const std::vector<double> &shares, Terms8 *step) const {
     std::array<Terms8, Terms> matrix = {};
     Terms8 right = {};
     double error = 0;
@@ -103,7 +103,7 @@ double BlurFit::evaluate(const Terms8 &world, const std::vector<double> &shares,
         const Bin &bin = m_bins[i];
         double level = 0;
         for (std::size_t q = 0; q < Terms; ++q)
-            level += world[q] * bin.terms[q];
+            level += scene[q] * bin.terms[q];
         const double signal = std::exp(std::min(level, 20.0)) * shares[i];
         const double power = std::max(signal + m_noise, LowestPower);
         const double rest = bin.level - std::log(power);
@@ -124,9 +124,9 @@ double BlurFit::evaluate(const Terms8 &world, const std::vector<double> &shares,
     error /= weights;
     for (std::size_t q = 0; q < Terms; ++q) {
         const double precision = UsualWeight / (Spread[q] * Spread[q]);
-        error += precision * (world[q] - Usual[q]) * (world[q] - Usual[q]);
+        error += precision * (scene[q] - Usual[q]) * (scene[q] - Usual[q]);
         matrix[q][q] += weights * precision;
-        right[q] -= weights * precision * (world[q] - Usual[q]);
+        right[q] -= weights * precision * (scene[q] - Usual[q]);
     }
     if (step) {
         solve(matrix, right);
@@ -140,14 +140,14 @@ double BlurFit::errorOf(const BlurKernel &kernel, bool quick) const {
     std::vector<double> shares(quick ? m_quick : m_bins.size());
     for (std::size_t i = 0; i < shares.size(); ++i)
         shares[i] = profile.at(kernel.along(m_bins[i].x, m_bins[i].y));
-    Terms8 world = guess(shares);
+    Terms8 scene = guess(shares);
     for (int turn = quick ? QuickTurns : Turns; turn > 0; --turn) {
         Terms8 step;
-        evaluate(world, shares, &step);
+        evaluate(scene, shares, &step);
         for (std::size_t q = 0; q < Terms; ++q)
-            world[q] += std::clamp(step[q], -LargestStep, LargestStep);
+            scene[q] += std::clamp(step[q], -LargestStep, LargestStep);
     }
-    return evaluate(world, shares, nullptr);
+    return evaluate(scene, shares, nullptr);
 }
 
 } // namespace Analysis

@@ -5,7 +5,7 @@
 
 namespace Analysis {
 
-/// How well a photograph's spectrum is explained by a kernel: what the world looks like without it
+/// How well a photograph's spectrum is explained by a kernel: what the scene looks like without it
 /// falls with a power of the frequency, a little differently in each direction, and the sensor adds
 /// noise that is the same everywhere.
 class BlurFit {
@@ -14,7 +14,7 @@ public:
     BlurFit(const PowerSpectrum &spectrum, double noise);
 
     /// Mean squared error of the logarithm of the power, outliers counting less, and what is unusual
-    /// about the world that it takes. A quick look leaves the highest frequencies out.
+    /// about the scene that it takes. A quick look leaves the highest frequencies out.
     double errorOf(const BlurKernel &kernel, bool quick = false) const;
 
 private:
@@ -28,7 +28,7 @@ private:
     };
     using Terms8 = std::array<double, Terms>;
 
-    double evaluate(const Terms8 &world, const std::vector<double> &shares, Terms8 *step) const;
+    double evaluate(const Terms8 &scene, const std::vector<double> &shares, Terms8 *step) const;
     Terms8 guess(const std::vector<double> &shares) const;
 
     double m_noise;

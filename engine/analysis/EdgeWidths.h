@@ -24,12 +24,12 @@ using TileEdges = std::array<std::vector<std::vector<Edge>>, EdgeScales>;
 /// noise.
 std::vector<Edge> edgesOf(const Plane &plane, float noise);
 
-/// How many edges tell something, at a scale.
+/// How many edges can be measured at a scale.
 std::size_t fewestEdges(std::size_t scale);
 
 /// Gaussian sigma of these edges together, in pixels of their plane: of the
 /// strongest ones, as weak ones are soft by nature or by compression. Each
-/// alone would be at the mercy of the noise.
+/// alone would depend too much on the noise.
 double widthOf(std::vector<Edge> edges, std::size_t fewest, float noise);
 
 /// Edges of this width are best measured at this scale, rather than on a larger

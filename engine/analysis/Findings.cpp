@@ -65,7 +65,7 @@ double noiseOf(const ImageStatistics &statistics) {
     return 255 * white * std::min(MostForGrain, 1 + GrainWeight * grain * grain);
 }
 
-/// Where edges are wide because they are soft in the world, fine detail isn't missing; where fine
+/// Where edges are wide because they are soft in the scene, fine detail isn't missing; where fine
 /// texture makes edges look sharp, it is. The mean of both is nearer to what was done to a photograph
 /// than either.
 double blurOf(const ImageStatistics &statistics) {

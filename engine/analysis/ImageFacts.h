@@ -14,7 +14,7 @@
 /// every run. Safe to use from several threads: a second asker waits for the first one's answer.
 class ImageFacts {
 public:
-    /// Nothing when stopped. `replaced` is set when another picture stood under this uid.
+    /// Nothing when stopped. `replaced` is set when another picture had this uid.
     std::optional<ImageStatistics> of(const QString &uid, const ImageRef &image, const std::stop_token &stop,
                                       bool *replaced = nullptr);
     /// An empty uid forgets every picture.

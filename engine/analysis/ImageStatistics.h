@@ -5,7 +5,7 @@
 #include <array>
 #include <stop_token>
 
-/// What made a picture unsharp, as far as its spectrum tells.
+/// What made a picture unsharp, as far as its spectrum shows it.
 enum class BlurKind {
     Unknown, ///< nothing, too little of it to tell, or too much noise
     Soft,    ///< details vanish the more the finer they are: what lenses, resizing and air do
@@ -13,7 +13,7 @@ enum class BlurKind {
     Motion,  ///< the same in one direction
 };
 
-/// What a look at a picture tells about it. All levels are encoded (display-referred) values
+/// What was measured on a picture. All levels are encoded (display-referred) values
 /// from 0 to 1, so that a noise of 10 on the 8-bit scale is 10 / 255; lengths are pixels.
 /// Computed once per image and handed to every run, so that a preview equals the export.
 struct ImageStatistics {

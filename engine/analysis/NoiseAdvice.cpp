@@ -25,7 +25,7 @@ QString rawModel(const AdviceInput &input) {
     return input.findings.noise >= Thresholds::NoiseSevere ? Models::RawStandard : Models::RawNative;
 }
 
-/// `noise` on the 8-bit scale. What a model does besides removing noise is left at its least.
+/// `noise` on the 8-bit scale. What a model does besides removing noise is left at its minimum.
 ValueOf valuesFor(const AdviceInput &input, double noise) {
     const double grain = std::clamp(double(input.statistics.grainSize) - CoarseGrain, 0.0, 1.0);
     return [=](const ModelDefinition &model, const ParameterDefinition &parameter) -> std::optional<double> {

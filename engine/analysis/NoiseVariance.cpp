@@ -8,7 +8,7 @@ namespace Analysis {
 namespace {
 
 /// Fewer for the high frequencies, which texture reaches first, than for the middle ones, whose least
-/// power tells.
+/// power is what counts.
 constexpr double FlattestShare = 0.02;
 constexpr double FlattestShareMiddle = 0.05;
 constexpr std::size_t FewestBlocks = 48;
@@ -27,8 +27,8 @@ constexpr std::size_t FewestInBand = 200;
 /// Between bands of brightness, noise varies by no more than this; what exceeds it is texture. White
 /// noise was added to all of them alike; what a camera left follows the light.
 constexpr float MostBandRatio = 1.4f, MostBandRatioWhite = 1.2f;
-/// The band that the others are held against: this share of the blocks lies in bands with less noise. A
-/// small band of sky tells enough of white noise; of correlated noise it may have lost most.
+/// The band that the others are compared with: this share of the blocks lies in bands with less noise. A
+/// small band of sky says enough about white noise; of correlated noise it may have lost most.
 constexpr float LowerShare = 0.25f, LowerShareWhite = 0.12f;
 
 /// The blocks among `order` in which the key is smallest.

@@ -13,7 +13,7 @@ namespace {
 constexpr int Side = PowerSpectrum::Side;
 constexpr int Half = PowerSpectrum::Half;
 constexpr int Step = 48; ///< blocks overlap by a quarter: the window takes that much off on either side
-/// Frequencies whose power tells how much contrast a block has, in cycles per block: below them is
+/// Frequencies whose power shows how much contrast a block has, in cycles per block: below them is
 /// the window's own spread, above them a blur has taken its share.
 constexpr int LowestContrast = 2;
 constexpr int HighestContrast = 7;

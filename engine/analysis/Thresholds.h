@@ -28,11 +28,11 @@ inline constexpr double BlurLow = 0.85;
 inline constexpr double BlurMedium = 1.15;
 /// Detail of five pixels and less is gone.
 inline constexpr double BlurHigh = 2.5;
-/// Noise of the luma beyond which fine detail can't be seen to be missing; edges alone tell then.
+/// Noise of the luma beyond which fine detail can't be seen to be missing; edges alone count then.
 inline constexpr double NoiseOverDetail = 2.5;
 /// The spectrum of a dark or flat picture says nothing. It can take this much off what edges say.
 inline constexpr double LeastSoftness = 0.4;
-/// Fewer edge pixels than this share tell nothing about sharpness: fog, sky, a blank wall.
+/// Fewer edge pixels than this share say nothing about sharpness: fog, sky, a blank wall.
 inline constexpr double FewestEdges = 0.002;
 /// A smear of this length in pixels is as wide as blur from which on Sharpen is proposed (times the
 /// root of twelve), and turns it on though edges along the smear are sharp.
@@ -45,7 +45,7 @@ inline constexpr double ShownNoiseSevere = 0.5;
 inline constexpr double ShownBlurMedium = 0.22;
 inline constexpr double ShownBlurHigh = 0.37;
 
-// Where the sliders of a filter stand that is off, so that switching it on shows an effect.
+// The sliders of a filter that is off, so that switching it on shows an effect.
 inline constexpr double RestingNoise = 3;
 inline constexpr double RestingBlur = 0.8;
 

@@ -16,7 +16,7 @@ public:
 
     /// Reads `directory`/<category>/<model>.json, all of them in the order of their paths. A file
     /// that is damaged, too large, not supported or a second one for its model is skipped with a
-    /// line in the log. Weight files stand somewhere below `directory`.
+    /// line in the log. Weight files are somewhere below `directory`.
     static std::shared_ptr<const ModelCatalogue> read(const QString &directory, const Supports &supports);
     /// Every sound definition, whether or not it can be run.
     static std::shared_ptr<const ModelCatalogue> read(const QString &directory) {

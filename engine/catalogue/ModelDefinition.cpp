@@ -18,7 +18,7 @@ bool isName(const QString &s) {
     return !s.trimmed().isEmpty() && s.size() <= MaxName;
 }
 
-/// Empty when the parameter stands in `out`, otherwise what is wrong with it.
+/// Empty when the parameter is in `out`, otherwise what is wrong with it.
 QString readParameter(const QString &name, const QJsonValue &value, ParameterDefinition &out) {
     if (!isName(name) || !value.isObject())
         return QStringLiteral("parameter \"%1\" is not an object").arg(name.left(MaxName));

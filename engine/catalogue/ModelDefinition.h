@@ -26,16 +26,16 @@ struct ModelDefinition {
     QString category;
     QString model;
     QString kind;      ///< "classical" or "network"
-    QString operation; ///< what of the engine runs it
+    QString operation; ///< the engine's code that runs it
     QList<ParameterDefinition> parameters;
     QList<NetworkDefinition> networks; ///< of a "network", at least one
-    QJsonObject constants;             ///< what the operation wants to know besides; fixed for the model
+    QJsonObject constants;             ///< what else the operation needs; fixed for the model
 
     /// Null when there is none.
     const ParameterDefinition *byRole(const QString &role) const;
     double constant(const QString &name, double fallback) const;
 
-    /// What a network of scale 1 is told by its first conditions.
+    /// What a network of scale 1 gets as its first conditions.
     enum Fault { Noise, ChromaNoise, Blur };
     /// How much of a fault a strength of 1 takes away with the flags of these roles up: noise as a standard
     /// deviation on the 8-bit scale, blur as its spread in pixels. 0 when it takes none.

@@ -31,7 +31,7 @@ bool readCondition(const QJsonValue &value, NetworkDefinition::Condition &condit
     return value.isObject();
 }
 
-/// What is wrong with the entry; empty when it stands in `out`.
+/// What is wrong with the entry; empty when it is in `out`.
 QString readNetwork(const QJsonObject &object, NetworkDefinition &out) {
     out.file = object.value(QStringLiteral("file")).toString();
     if (out.file.isEmpty() || out.file.size() > MaxName)

@@ -25,7 +25,7 @@ public:
     /// Output pixels per input pixel.
     virtual double scale() const { return 1; }
     /// Whether run() writes alpha; otherwise it is carried over.
-    virtual bool makesAlpha() const { return false; }
+    virtual bool writesAlpha() const { return false; }
     virtual int tileSide() const { return 384; }
     /// Rough time for one output pixel, for progress.
     virtual double cost() const { return 1; }

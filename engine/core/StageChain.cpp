@@ -65,7 +65,7 @@ StageChain::Outcome StageChain::runStage(std::size_t i, const Part &input, const
     const auto tiles =
         tilesOf(area, settings.tileSide > 0 ? settings.tileSide : stage.tileSide(), settings.threads);
     const auto work = [&](const TRect &tile, Scratch &scratch) -> QString {
-        const bool alpha = m_image->hasAlpha() && stage.makesAlpha();
+        const bool alpha = m_image->hasAlpha() && stage.writesAlpha();
         const int channels = alpha ? 4 : 3;
         FloatTile out = FloatTile::make(scratch, tile, channels);
         FloatTile in = FloatTile::make(scratch, stage.inputRegion(tile), channels);

@@ -97,7 +97,7 @@ TileRun runTiles(const std::vector<TRect> &tiles, int threads, const std::stop_t
             for (std::size_t i = 1; i < wanted; ++i)
                 helpers.emplace_back(loop);
         } catch (const std::system_error &) {
-            // No further thread is to be had: those that started, and this one, do the work.
+            // No further thread can be started: those that were, and this one, do the work.
         }
         loop();
     }

@@ -19,7 +19,7 @@ struct TileRun {
 };
 
 /// Does `work` for each tile on up to `threads` threads, the caller's among them. When stopped, or
-/// when `work` returns an error text, it returns as soon as the tiles under way do. `done` is told the number
+/// when `work` returns an error text, it returns as soon as the tiles under way do. `done` gets the number
 /// of finished tiles after each one, never from two threads at once.
 TileRun runTiles(const std::vector<TRect> &tiles, int threads, const std::stop_token &stop,
                  const std::function<QString(const TRect &, Scratch &)> &work,

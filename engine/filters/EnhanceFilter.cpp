@@ -30,7 +30,7 @@ public:
     QSize outputSize(const QSize &) const override { return m_output; }
     TRect outputRegion(const TRect &input) const override;
     double scale() const override { return m_scale; }
-    bool makesAlpha() const override { return true; }
+    bool writesAlpha() const override { return true; }
     double cost() const override { return 2 + (m_pass ? 11 * m_pass->effort() : 0) / (m_scale * m_scale); }
     int tileSide() const override {
         const int side = m_pass ? m_pass->tileSide() : Stage::tileSide();

@@ -9,7 +9,7 @@ constexpr double MaxScale = 6;
 constexpr double MaxSide = 32000;
 
 double fixedSideScale(double wanted, double side, const std::optional<double> &scale) {
-    // A scale of exactly 1 is what settings hold that nobody touched.
+    // Settings that nobody changed hold a scale of exactly 1.
     const bool cropExplains = scale && *scale != 1 && wanted / *scale < side - 0.5;
     return cropExplains ? *scale : wanted / side;
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Up to these strengths the picture's own noise comes in by degrees, so that a slider at its least
+/// Up to these strengths the picture's own noise comes in by degrees, so that a slider at its minimum
 /// changes next to nothing. Of a model for heavy noise a tenth is much already.
 constexpr double FullNoiseStrength = 0.25;
 constexpr double FullChromaStrength = 0.1;

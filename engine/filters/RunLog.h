@@ -7,12 +7,12 @@
 /// The log lines of one run, each written once however often its cause comes up.
 class RunLog {
 public:
-    /// Something that was asked for and can't be had as asked.
+    /// Something that was asked for and can't be done as asked.
     void note(const QString &line) {
         if (isNew(line))
             qWarning().noquote() << "[ENGINE]" << line;
     }
-    /// Something that is worth knowing and is nobody's fault.
+    /// Something that is worth knowing and is no fault.
     void inform(const QString &line) {
         if (isNew(line))
             qInfo().noquote() << "[ENGINE]" << line;

@@ -11,8 +11,8 @@ namespace {
 constexpr double SmallestFile = 366'000; ///< bytes
 constexpr int EnlargingHalo = 3;         ///< of the cubic kernel, in pixels of the input
 
-/// Below this largest condition a restoration fades out: a network that is told of no damage still
-/// changes a picture a little, and a slider at its least must not.
+/// Below this largest condition a restoration fades out: a network whose conditions are 0 still
+/// changes a picture a little, and a slider at its minimum must not.
 constexpr float FullEffect = 0.02f;
 
 float shareOf(const NetworkDefinition &definition, const std::vector<float> &conditions) {

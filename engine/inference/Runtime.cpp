@@ -36,7 +36,7 @@ private:
     std::streambuf *m_before;
 };
 
-/// Failures are told by exceptions; the runtime's own lines would only repeat them.
+/// Failures are reported by exceptions; the runtime's own lines would only repeat them.
 void dropLine(void *, OrtLoggingLevel, const char *, const char *, const char *, const char *) {
 }
 

@@ -57,7 +57,7 @@ QtObject {
     readonly property Connections _ofReader: Connections {
         target: _top.windowState.reader
 
-        // The picture stands. The user may have moved on to another one meanwhile.
+        // The picture is there. The user may have moved on to another one meanwhile.
         function onImagedataChanged(): void {
             const controls = _top.windowState.controls;
             const imageData = _top.windowState.reader.imagedata;

@@ -22,7 +22,7 @@ QtObject {
         return _private.set(key, modifiers, false, repeated);
     }
 
-    // A key released while another window had the focus is not seen; the system tells.
+    // A key released while another window had the focus is not seen; the system knows.
     function reset(): void {
         _private.modifiers = _top.osUtils.keyboardModifiers();
         _private.held = [];

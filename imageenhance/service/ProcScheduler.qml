@@ -25,10 +25,10 @@ QtObject {
         engine.paramsChanged();
     }
 
-    // The one entry for runs on what is seen.
+    // The one entry point for runs on what is seen.
     function procCurrentRoi(): void {
         const roi = _top.preview.procRoi;
-        const why = _private.shutGate(roi);
+        const why = _private.closedGate(roi);
         if (why !== "") {
             console.info(why);
             return;
@@ -119,7 +119,7 @@ QtObject {
         property bool queuedProc: false
         property int turnsLeft: 0 // of the event loop until a run
 
-        // A change of settings may change the view, which tells a turn of the event loop later: with two turns to
+        // A change of settings may change the view, which reports it a turn of the event loop later: with two turns to
         // wait both make one run.
         function requestFrom(cause: string, turns: int): void {
             console.info("[PROC] Proc requested from " + cause);
@@ -134,8 +134,8 @@ QtObject {
                 _top.procCurrentRoi();
         }
 
-        // Why nothing is to be run now, in the words of the log; empty when all gates are open.
-        function shutGate(roi: rect): string {
+        // Why nothing is to be run now, as the log says it; empty when all gates are open.
+        function closedGate(roi: rect): string {
             if (_top.windowState.isLoading)
                 return "[PROC] Ignoring proc call while running loading image";
             if (_top.windowState.autopilotRunning)

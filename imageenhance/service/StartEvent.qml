@@ -26,12 +26,12 @@ Timer {
 
         // How the program is set up; nothing that names files, folders or the user.
         function preferences(): var {
-            const told = {};
+            const reported = {};
             for (const key of Object.keys(_top.settings)) {
                 if (/^autopilot|^(colorScheme|deviceId|lastViewMode|defaultCanUploadImages|saveImageFormat)$/.test(key) && typeof _top.settings[key] !== "function")
-                    told[key] = _top.settings[key];
+                    reported[key] = _top.settings[key];
             }
-            return told;
+            return reported;
         }
     }
 }

@@ -17,7 +17,7 @@ QtObject {
     readonly property QtObject _private: QtObject {
         id: _private
 
-        property int counts: 0 // 1 once the stored values stand
+        property int counts: 0 // 1 once the stored values are final
         property int sidebar: 0
         property int menu: 0
     }

@@ -17,7 +17,7 @@ struct PreferenceInQml {
     QML_VALUE_TYPE(preference)
 };
 
-/// The store. What is set stands at once for every reader in this program; the disk gets it with what
+/// The store. What is set holds at once for every reader in this program; the disk gets it with what
 /// else changes within half a second, or at the end.
 class PatientSettings : public QSettings {
 public:
@@ -59,7 +59,7 @@ Q_SIGNALS:
 #define CHANGED(Type, key, ...) void key##Changed();
     PREFERENCES(CHANGED)
 #undef CHANGED
-    /// Any of them, once it stands in the store.
+    /// Any of them, once it is in the store.
     void stored(const QString &key);
 
 private:

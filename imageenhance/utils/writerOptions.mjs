@@ -1,4 +1,4 @@
-// What the writer is told about a format, as attributes of the image library. `choice` holds the settings of saving:
+// What the writer is given for a format, as attributes of the image library. `choice` holds the settings of saving:
 // saveImageFormat, saveJpegQuality, savePngCompression, savePngBitDepth, saveTiffCompression, saveTiffBitDepth,
 // saveDngCompression.
 export function writerOptions(extension, choice) {

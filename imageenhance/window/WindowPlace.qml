@@ -4,7 +4,7 @@ import AppContext
 import TQmlUtils
 import imageenhance
 
-// Where the window stands and whether it is maximized, from one session to the next.
+// Where the window is and whether it is maximized, from one session to the next.
 QtObject {
     id: _top
 

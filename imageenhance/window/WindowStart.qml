@@ -3,7 +3,7 @@ import QWindowKit
 import TIntegrations
 import imageenhance
 
-// The start: where the window stands, its frame, and the steps until it is seen.
+// The start: the window's place, its frame, and the steps until it is seen.
 QtObject {
     id: _top
 

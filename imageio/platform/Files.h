@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What saving and reading files needs of the operating system beyond what Qt offers. A port adds
+/// What saving and reading files needs from the operating system beyond what Qt offers. A port adds
 /// a file of its own; nothing else in this room calls the system.
 namespace platform {
 
@@ -47,12 +47,12 @@ Refusal replaceFile(const QString &from, const QString &to);
 
 void removeFile(const QString &path);
 
-/// Eight letters and digits that tell this host, and on it the range in which process numbers are
+/// Eight letters and digits that distinguish this host, and on it the range in which process numbers are
 /// unique, from others that see the same folder.
-QString hostMark();
+QString hostId();
 
 /// False only when this host has no process of this number.
-bool processLives(qint64 number);
+bool processExists(qint64 number);
 
 /// An ordinary file, no link to one, that belongs to the present user.
 bool isOwnFile(const QString &path);

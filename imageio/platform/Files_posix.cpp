@@ -97,7 +97,7 @@ Refusal appendZeros(const QString &path) {
     int code = 0;
     for (int i = 0; i < Blocks && code == 0; ++i) {
         ssize_t written = ::write(fd, Block, sizeof Block);
-        if (written >= 0 && written < ssize_t(sizeof Block)) // the next one tells why
+        if (written >= 0 && written < ssize_t(sizeof Block)) // the next one says why
             written = ::write(fd, Block, sizeof Block);
         code = written < 0 ? errno : 0;
     }
@@ -118,7 +118,7 @@ void removeFile(const QString &path) {
     ::unlink(QFile::encodeName(path).constData());
 }
 
-QString hostMark() {
+QString hostId() {
     // Containers on one machine count their processes apart; where that is so, the link names another
     // number. Elsewhere there is no such link.
     char space[64] = {};
@@ -128,7 +128,7 @@ QString hostMark() {
     return QString::fromLatin1(QCryptographicHash::hash(host, QCryptographicHash::Sha256).toHex().first(8));
 }
 
-bool processLives(qint64 number) {
+bool processExists(qint64 number) {
     return number <= 0 || number > std::numeric_limits<pid_t>::max() || ::kill(pid_t(number), 0) == 0 ||
            errno != ESRCH;
 }

@@ -113,12 +113,12 @@ void removeFile(const QString &path) {
     DeleteFileW(native(path).c_str());
 }
 
-QString hostMark() {
+QString hostId() {
     const QByteArray host = QSysInfo::machineUniqueId() + '\n' + QSysInfo::machineHostName().toUtf8();
     return QString::fromLatin1(QCryptographicHash::hash(host, QCryptographicHash::Sha256).toHex().first(8));
 }
 
-bool processLives(qint64 number) {
+bool processExists(qint64 number) {
     const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, DWORD(number));
     if (!process)
         return GetLastError() != ERROR_INVALID_PARAMETER;

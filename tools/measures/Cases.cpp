@@ -111,7 +111,7 @@ void addEnlarge(std::vector<Case> &cases) {
                              [scale](const cv::Mat &clean, int) { return reduced(clean, scale); }, settings,
                              reference, scale, source});
         };
-        // The page shows what stands second.
+        // The page shows the second one.
         const auto addBoth = [&add](Source source) { add(2, source), add(4, source); };
         if (model == u"CGI"_s)
             addBoth(Source::Drawings);

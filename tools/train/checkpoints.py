@@ -7,7 +7,7 @@ import onnx.numpy_helper
 import torch
 
 from networks import Network
-from photographs import CACHE, ROOM
+from photographs import CACHE, FOLDER
 from shorten import SUFFIX
 
 FOLDER = CACHE / "checkpoints"
@@ -26,7 +26,7 @@ def save(name, network, weights, **state):
 
 def _exported(name):
     """What an exported file holds, so that training goes on from the repository on another machine."""
-    file = next((ROOM.parent.parent / "data" / "models").glob(f"*/{name}.onnx"), None)
+    file = next((FOLDER.parent.parent / "data" / "models").glob(f"*/{name}.onnx"), None)
     if file is None:
         raise SystemExit(f"{name} has neither a checkpoint nor an exported file: train it first")
     tensors = {t.name.removesuffix(SUFFIX): torch.from_numpy(onnx.numpy_helper.to_array(t).astype("float32")) for t in onnx.load(file).graph.initializer}

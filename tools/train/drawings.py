@@ -1,4 +1,4 @@
-"""Draws training pictures of graphics: interfaces, type, charts, maps, comics, line art, shaded shapes.
+"""Makes drawings to train on: interfaces, type, charts, maps, comics, line art, shaded shapes.
 
 python3 drawings.py OUT.npy COUNT SIDE [--seed N] [--sheet FILE.png]
 """
@@ -18,7 +18,7 @@ import drawings_type
 from drawings_palette import Palette
 from drawings_pen import Pen
 
-ROOMS = (
+MODULES = (
     drawings_screens,
     drawings_type,
     drawings_charts,
@@ -28,7 +28,7 @@ ROOMS = (
     drawings_prints,
     drawings_shaded,
 )
-SCENES = tuple(scene for room in ROOMS for scene in room.SCENES)
+SCENES = tuple(scene for module in MODULES for scene in module.SCENES)
 ZOOMS = (0.75, 0.9, 1.0, 1.0, 1.0, 1.0, 1.25, 1.5, 2.0, 2.7)
 
 

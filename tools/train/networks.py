@@ -1,6 +1,6 @@
 """The restoring and the enlarging network: residual blocks of 3x3 convolutions at half resolution.
 
-Both take encoded RGB of shape (n, 3, h, w), h and w even, and one condition vector of shape (n, k) that tells the
+Both take encoded RGB of shape (n, 3, h, w), h and w even, and one condition vector of shape (n, k) that describes the
 degradation; the conditions join the picture as constant maps.
 """
 import torch

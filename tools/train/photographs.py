@@ -8,8 +8,8 @@ import numpy
 import torch
 from PIL import Image
 
-ROOM = pathlib.Path(__file__).resolve().parent
-CACHE = ROOM.parent.parent / "build" / "train"
+FOLDER = pathlib.Path(__file__).resolve().parent
+CACHE = FOLDER.parent.parent / "build" / "train"
 PACKED = CACHE / "packed"
 PACKED_DRAWINGS = 450
 REDUCED = 0.6  # of the original size: removes a photograph's own noise and compression
@@ -19,7 +19,7 @@ Image.MAX_IMAGE_PIXELS = None
 def files(use):
     """Paths of the photographs listed for "train" or "validate", sorted, none twice."""
     found = {}
-    for line in (ROOM / "photographs.txt").read_text().splitlines():
+    for line in (FOLDER / "photographs.txt").read_text().splitlines():
         if line.startswith(use + " "):
             matches = sorted(glob.glob("/usr/share/" + line.split()[2]))
             if not matches:

@@ -1,4 +1,4 @@
-"""A camera's way from light to a developed picture: colour filter mosaic, photon and read noise, demosaicing, colour.
+"""What a camera does from light to a developed picture: colour filter mosaic, photon and read noise, demosaicing, colour.
 
 The opposite way makes sensor data out of a finished photograph; noise added there comes out as it does in RAW files.
 """

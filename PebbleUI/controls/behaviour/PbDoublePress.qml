@@ -1,6 +1,6 @@
 import QtQml
 
-// Tells the second press of a pair from a single one. A third press starts a new pair.
+// Distinguishes the second press of a pair from a single one. A third press starts a new pair.
 QtObject {
     id: _top
 

@@ -7,7 +7,7 @@ QtObject {
 
     property int decimals: 0
 
-    // That of the language while it is empty; asked for at the first key, since a locale is dear to make.
+    // That of the language while it is empty; asked for at the first key, since a locale is expensive to make.
     property string decimalPoint: ""
 
     // NaN for anything but a plain decimal number: no blanks, exponents or other bases.

@@ -1,7 +1,7 @@
 import QtQml
 
 // What a slider decides without being seen: which of its three values count, where a reset goes, and
-// where Autopilot's mark stands. Minus infinity means that a value is not set.
+// where Autopilot's mark is. Minus infinity means that a value is not set.
 QtObject {
     id: _top
 
@@ -25,7 +25,7 @@ QtObject {
         return isInRange(defaultValue) ? defaultValue : value;
     }
 
-    // The left edge of the mark: the handle's middle when the slider stands at `autoValue`, less half of
+    // The left edge of the mark: the handle's middle when the slider is at `autoValue`, less half of
     // the one pixel that the mark is wide.
     function markX(leftPadding: real, availableWidth: real, handleWidth: real): real {
         const share = to === from ? 0 : (autoValue - from) / (to - from);

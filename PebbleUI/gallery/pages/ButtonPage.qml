@@ -55,7 +55,7 @@ GallerySection {
 
     GalleryCase {
         name: "focused"
-        ringed: true
+        showsFocusRing: true
 
         PbButton {
             text: "Export image"

@@ -33,7 +33,7 @@ GallerySection {
 
     GalleryCase {
         name: "focused"
-        ringed: true
+        showsFocusRing: true
 
         Row {
             PbCheckBox { text: "On"; checked: true }

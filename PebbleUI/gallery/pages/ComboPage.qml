@@ -25,7 +25,7 @@ GallerySection {
 
     GalleryCase {
         name: "focused"
-        ringed: true
+        showsFocusRing: true
 
         Box { model: ["Standard"] }
     }

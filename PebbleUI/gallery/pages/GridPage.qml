@@ -33,7 +33,7 @@ GallerySection {
 
     GalleryCase {
         name: "focused"
-        ringed: true
+        showsFocusRing: true
 
         PbGridOption {
             text: "Landscape"

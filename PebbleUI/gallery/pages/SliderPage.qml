@@ -37,7 +37,7 @@ GallerySection {
 
     GalleryCase {
         name: "focused"
-        ringed: true
+        showsFocusRing: true
 
         PbSlider {
             value: 20

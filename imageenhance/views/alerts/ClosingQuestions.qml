@@ -21,7 +21,7 @@ Item {
     signal closeWindow
     signal leaving
 
-    // A question that stands keeps its meaning: none is asked over it.
+    // An open question keeps its meaning: none is asked over it.
     function closeImage(index: int): void {
         if (!_top.queue.has(_closeWarning.turn))
             _one.closeImage(index);

@@ -1,14 +1,14 @@
 import QtQuick
 
-// Lets one dialog stand at a time, in the order of asking, without a screen. A dialog is known by its name: one that
-// stands or waits already is not asked for again.
+// Lets one dialog be open at a time, in the order of asking, without a screen. A dialog is known by its name: one that
+// is open or waits already is not asked for again.
 QtObject {
     id: _top
 
     readonly property string current: _private.names[0] ?? ""
     readonly property int count: _private.names.length
     // The current one took another's place: the next click may be meant for that one.
-    readonly property bool tookPlace: _private.tookPlace
+    readonly property bool tookOver: _private.tookOver
 
     signal left(string name)
     signal emptied
@@ -21,7 +21,7 @@ QtObject {
         if (has(name))
             return;
         if (count === 0)
-            _private.tookPlace = false;
+            _private.tookOver = false;
         _private.names = [..._private.names, name];
     }
 
@@ -30,7 +30,7 @@ QtObject {
         if (!has(name))
             return;
         if (name === current)
-            _private.tookPlace = true;
+            _private.tookOver = true;
         _private.names = _private.names.filter(other => other !== name);
         left(name);
         if (count === 0)
@@ -41,6 +41,6 @@ QtObject {
         id: _private
 
         property list<string> names // the current one first
-        property bool tookPlace: false
+        property bool tookOver: false
     }
 }

@@ -3,7 +3,7 @@ import QtQuick.Controls.Fusion
 import PebbleUI
 import imageenhance
 
-// A dialog that stands when its turn has come, and leaves the queue by being answered. In another's place it takes no
+// A dialog that opens when its turn has come, and leaves the queue by being answered. In another's place it takes no
 // answer for a moment: the second click of a double click was meant for the one before.
 PbDialog {
     id: _top
@@ -33,7 +33,7 @@ PbDialog {
     }
     onAboutToShow: {
         _private.shown = turn;
-        if (queue.tookPlace)
+        if (queue.tookOver)
             _settling.restart();
     }
     onClosed: {

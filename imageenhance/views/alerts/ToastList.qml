@@ -1,7 +1,7 @@
 import QtQuick
 
-// Which messages stand at the window's edge, without a screen. A toast is known by its title, message and type: one
-// that stands already is not added again.
+// Which messages are shown at the window's edge, without a screen. A toast is known by its title, message and type: one
+// that is shown already is not added again.
 QtObject {
     id: _top
 
@@ -10,8 +10,8 @@ QtObject {
     readonly property alias model: _toasts
     readonly property int count: _toasts.count
 
-    // Takes { title, message, type, timeout, showOnlyOnce, onDismiss }. The answer speaks for whatever equal toast
-    // stands: `active`, and dismiss(skipDismissCallback).
+    // Takes { title, message, type, timeout, showOnlyOnce, onDismiss }. The answer is for whatever equal toast
+    // is shown: `active`, and dismiss(skipDismissCallback).
     // No types here: they would strip the functions off.
     function queue(options) {
         const toast = {

@@ -24,9 +24,9 @@ Item {
         });
         _private.failed = failed;
         if (failed.length === 1)
-            _private.tell("unreadable", qsTr("Cannot open file: ") + path, error);
+            _private.notify("unreadable", qsTr("Cannot open file: ") + path, error);
         else
-            _private.tell("unreadable", qsTr("Cannot open %1 files.").arg(failed.length), _private.listed(failed.map(file => `${_top.imageUtils.getFilename(file.path)}: ${file.error}`)));
+            _private.notify("unreadable", qsTr("Cannot open %1 files.").arg(failed.length), _private.listed(failed.map(file => `${_top.imageUtils.getFilename(file.path)}: ${file.error}`)));
     }
 
     function invalidImages(paths: list<string>): void {
@@ -38,7 +38,7 @@ Item {
         if (unsupported.length === 0)
             return;
         _private.unsupported = [...new Set(_private.unsupported.concat(unsupported))];
-        _private.tell("unsupported", qsTr("Could not open one or more images due to unsupported file types."), _private.listed(_private.unsupported));
+        _private.notify("unsupported", qsTr("Could not open one or more images due to unsupported file types."), _private.listed(_private.unsupported));
     }
 
     function lowSpace(volume: string, critical: bool): void {
@@ -56,11 +56,11 @@ Item {
         target: _top.osUtils
 
         function onFileMissing(path: string): void {
-            _private.tell("missing " + path, qsTr("Cannot show %1 because it is missing.").arg(_top.imageUtils.getFilename(path)), qsTr("Previous location: ") + path);
+            _private.notify("missing " + path, qsTr("Cannot show %1 because it is missing.").arg(_top.imageUtils.getFilename(path)), qsTr("Previous location: ") + path);
         }
 
         function onShowFileError(path: string): void {
-            _private.tell("not shown " + path, qsTr("An error occurred when trying to show the file."), qsTr("File location: ") + path);
+            _private.notify("not shown " + path, qsTr("An error occurred when trying to show the file."), qsTr("File location: ") + path);
         }
     }
 
@@ -87,7 +87,7 @@ Item {
         property var failed: [] // { path, error } of the files in the notice of unreadable ones
         property var unsupported: [] // paths in the notice of unsupported ones
 
-        function tell(name: string, message: string, details: string): void {
+        function notify(name: string, message: string, details: string): void {
             _private.notices = Object.assign({}, _private.notices, { [name]: { message, details } });
             _top.queue.ask(name);
         }

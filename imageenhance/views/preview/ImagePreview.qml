@@ -64,7 +64,7 @@ Item {
         onAnotherImage: {
             _state.originalActive = false;
             _pictures.moveToCenter();
-            Qt.callLater(_pictures.moveToCenter); // sizes may not stand yet
+            Qt.callLater(_pictures.moveToCenter); // sizes may not be settled yet
         }
     }
 

@@ -32,7 +32,7 @@ Item {
         _original.moveTo(offset ? x - _original.roi.width / 2 : x, offset ? y - _original.roi.height / 2 : y, false, true);
     }
 
-    // A new image stands in the middle at its own size.
+    // A new image starts in the middle at its own size.
     function moveToCenter(): void {
         leadingZoom().setZoomLevel(1);
         _original.centre();

@@ -3,7 +3,7 @@ import PebbleUI
 import TImageProcessor
 import imageenhance
 
-// One caption over the picture that says what goes on with it. Folds to its icon a while after the work is done.
+// One caption over the picture that says what is being done to it. Folds to its icon a while after the work is done.
 Rectangle {
     id: _top
 

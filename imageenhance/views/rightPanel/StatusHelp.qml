@@ -2,13 +2,13 @@ import QtQuick
 import PebbleUI
 import "../../utils/support.mjs" as Support
 
-// What to do about an error of the engine: an explanation for want of memory, for all else a page to read.
+// What to do about an error of the engine: an explanation when memory is short, for all else a page to read.
 Item {
     id: _top
 
     required property string error
 
-    // The engine's own words for it.
+    // The engine's own message.
     readonly property bool outOfMemory: error === "Out of memory"
 
     implicitWidth: outOfMemory ? _icon.width : _link.implicitWidth
