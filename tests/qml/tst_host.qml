@@ -3,31 +3,24 @@ import QtTest
 import Testing
 import imageenhance
 
-TestCase {
-    id: _case
+WindowParts {
+    id: parts
 
     name: "HostConnection"
 
-    property var log: []
-
-    WindowParts {
-        id: parts
-        testCase: _case
-    }
     Component {
         id: hosts
         HostConnection {
             integrations: parts.backends.host
             intercom: parts.backends.intercom
             controls: parts.controls
-            onLoadingFailed: (path, error) => _case.log.push([path, error])
-            onTrack: (name, properties) => _case.log.push([name, properties.a])
+            onLoadingFailed: (path, error) => parts.log.push([path, error])
+            onTrack: (name, properties) => parts.log.push([name, properties.a])
         }
     }
 
     function init(): void {
         parts.open([]);
-        log = [];
     }
 
     function test_burst_of_instances_does_not_move_the_view(): void {
