@@ -8,15 +8,13 @@ WindowParts {
 
     name: "HostConnection"
 
-    Component {
-        id: hosts
-        HostConnection {
-            integrations: parts.backends.host
-            intercom: parts.backends.intercom
-            controls: parts.controls
-            onLoadingFailed: (path, error) => parts.log.push([path, error])
-            onTrack: (name, properties) => parts.log.push([name, properties.a])
-        }
+    HostConnection {
+        id: host
+        integrations: parts.backends.host
+        intercom: parts.backends.intercom
+        controls: parts.controls
+        onLoadingFailed: (path, error) => parts.log.push([path, error])
+        onTrack: (name, properties) => parts.log.push([name, properties.a])
     }
 
     function init(): void {
@@ -24,7 +22,6 @@ WindowParts {
     }
 
     function test_burst_of_instances_does_not_move_the_view(): void {
-        const host = createTemporaryObject(hosts, this);
         const integrations = parts.backends.host;
         integrations.pluginImagesAdded(["/a.jpg"], false);
         integrations.pluginImagesAdded(["/b.jpg"], true);
@@ -35,7 +32,6 @@ WindowParts {
     }
 
     function test_messages_of_others(): void {
-        createTemporaryObject(hosts, this);
         const integrations = parts.backends.host;
         parts.backends.intercom.isServer = true;
         compare(parts.backends.intercom.key, integrations.mergableInstanceKey, "an instance that took over takes merges");
