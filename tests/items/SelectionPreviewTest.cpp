@@ -18,12 +18,9 @@ std::shared_ptr<ImageData> quarters(int width, int height) {
     auto image = std::make_shared<ImageData>(width, height, 3, SampleType::UInt8);
     for (int y = 0; y < height; ++y) {
         auto row = image->samples<quint8>(y);
-        const quint8 value = y < height / 2 ? 250 : 120;
-        for (int x = 0; x < width; ++x) {
-            row[std::size_t(3 * x)] = x < width / 2 ? value : 0;
-            row[std::size_t(3 * x + 1)] = x < width / 2 ? 0 : value;
-            row[std::size_t(3 * x + 2)] = 0;
-        }
+        std::ranges::fill(row, quint8(0));
+        for (int x = 0; x < width; ++x)
+            row[std::size_t(3 * x + (x < width / 2 ? 0 : 1))] = y < height / 2 ? 250 : 120;
     }
     return image;
 }

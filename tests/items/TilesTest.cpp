@@ -88,10 +88,10 @@ TEST(TileRenderer, EveryFormatGivesTheMeanOfItsPixels) {
 
 TEST(TileRenderer, PicturesAreShownInTheirOwnColours) {
     auto image = std::make_shared<ImageData>(4, 4, 3, SampleType::UInt8);
-    for (int y = 0; y < 4; ++y)
+    for (int y = 0; y < 4; ++y) {
         std::ranges::fill(image->samples<quint8>(y), quint8(128));
-    for (int y = 0; y < 4; ++y)
         image->samples<quint8>(y)[1] = 255;
+    }
     const QColor plain = at(renderTile(*image, {0, 0, 0}, QColorSpace::SRgb), 0, 0);
     image->setIccProfile(QColorSpace(QColorSpace::AdobeRgb).iccProfile());
     const QColor converted = at(renderTile(*image, {0, 0, 0}, QColorSpace::SRgb), 0, 0);

@@ -26,13 +26,6 @@ FakeEngine::Process process(double progress, const QString &stage, const QString
     };
 }
 
-void set(Hold &hold, bool closed) {
-    if (closed)
-        hold.close();
-    else
-        hold.open();
-}
-
 template <typename T, typename F>
 QVariantList listed(const T &records, F toVariant) {
     QVariantList list;
@@ -55,23 +48,11 @@ void FakeBackends::install() {
     setImageFileBackend(s_files);
 }
 
-void FakeBackends::holdReads(bool closed) {
-    set(s_files->readHold, closed);
-}
-
-void FakeBackends::holdRuns(bool closed) {
-    set(s_runs, closed);
-}
-
-void FakeBackends::holdAnalyses(bool closed) {
-    set(s_engine->analysisHold, closed);
-}
-
-void FakeBackends::release() {
-    holdReads(false);
-    holdRuns(false);
-    holdAnalyses(false);
-    scriptRuns(0, {}, {});
+void FakeBackends::hold(const QStringList &kinds) {
+    const std::pair<QString, Hold *> holds[] = {
+        {u"reads"_s, &s_files->readHold}, {u"runs"_s, &s_runs}, {u"analyses"_s, &s_engine->analysisHold}};
+    for (const auto &[kind, hold] : holds)
+        kinds.contains(kind) ? hold->close() : hold->open();
 }
 
 void FakeBackends::addFile(const QString &path, int width, int height) {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "frontends/AppContext.h"
 #include "host/TIntegrations.h"
 #include "host/TIntercom.h"
-#include "frontends/AppContext.h"
 #include "tests/fakes/FakeEngine.h"
 #include "tests/fakes/FakeFiles.h"
 
@@ -53,12 +53,8 @@ public:
     TIntercom *intercom() { return &m_intercom; }
     AppContext *appContext() { return &m_context; }
 
-    /// Closed, work of that kind stays under way.
-    Q_INVOKABLE void holdReads(bool closed);
-    Q_INVOKABLE void holdRuns(bool closed);
-    Q_INVOKABLE void holdAnalyses(bool closed);
-    /// Opens all holds; runs succeed at once.
-    Q_INVOKABLE void release();
+    /// Work of these kinds ("reads", "runs", "analyses") stays under way from now on, that of others ends.
+    Q_INVOKABLE void hold(const QStringList &kinds);
     Q_INVOKABLE void addFile(const QString &path, int width, int height);
     Q_INVOKABLE void failWriting(const QString &path, const QString &why);
     /// The answer to analyses from now on.

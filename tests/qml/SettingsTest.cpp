@@ -38,28 +38,20 @@ private:
 QVariant another(const Preference &p) {
     if (!p.values.isEmpty())
         return p.values.at(p.values.first() == p.initial ? 1 : 0);
-    switch (p.initial.typeId()) {
-    case QMetaType::Bool:
-        return !p.initial.toBool();
-    case QMetaType::Int:
-        return p.initial.toInt() < p.highest ? p.initial.toInt() + 1 : p.initial.toInt() - 1;
-    case QMetaType::Double:
-        return p.initial.toDouble() + 0.25;
-    case QMetaType::QStringList:
-        return QStringList{u"one, two"_s};
-    case QMetaType::QRectF:
-        return QRectF(1, 2, 300, 400);
-    case QMetaType::QPointF:
-        return QPointF(10, 20);
-    case QMetaType::QColor:
-        return QColor(0x33, 0x66, 0xcc);
-    case QMetaType::QDateTime:
-        return QDate(2026, 1, 1).startOfDay();
-    case QMetaType::QVariantList:
-        return QVariantList{outputFolderChoice("Holidays", "/holidays")};
-    default:
-        return u"a, b"_s;
-    }
+    const int number = p.initial.toInt();
+    const QHash<int, QVariant> others = {
+        {QMetaType::Bool, !p.initial.toBool()},
+        {QMetaType::Int, number < p.highest ? number + 1 : number - 1},
+        {QMetaType::Double, p.initial.toDouble() + 0.25},
+        {QMetaType::QString, u"a, b"_s},
+        {QMetaType::QStringList, QStringList{u"one, two"_s}},
+        {QMetaType::QRectF, QRectF(1, 2, 300, 400)},
+        {QMetaType::QPointF, QPointF(10, 20)},
+        {QMetaType::QColor, QColor(0x33, 0x66, 0xcc)},
+        {QMetaType::QDateTime, QDate(2026, 1, 1).startOfDay()},
+        {QMetaType::QVariantList, QVariantList{outputFolderChoice("Holidays", "/holidays")}},
+    };
+    return others.value(p.initial.typeId());
 }
 
 /// What no version stores under this key; nothing for a free text, where there is no such thing.

@@ -6,11 +6,12 @@ import TControls
 import TImageIO
 import imageenhance
 
-// The long-lived objects of the window, joined as `main` joins them, over back ends that a test scripts.
-Item {
+// A test of the long-lived objects of the window, joined as `main` joins them, over back ends that the test scripts.
+TestCase {
     id: _top
 
-    required property TestCase testCase
+    property var log: [] // what a test notes; cleared by open()
+    property int seenWidth: 800 // of the preview
     property int editMode: _panel.editMode
     property bool originalKeyHeld: false
 
@@ -28,13 +29,12 @@ Item {
     property int answers: 0 // of the engine, one for each run that was asked for
     property int cancelled: 0 // of these
 
-    signal loadingFailed(string path, string error)
-
     // With pictures of 1000 x 800, the first one current; all that follows has happened and is forgotten.
     function open(paths: list<string>): void {
         editMode = Qt.binding(() => _panel.editMode);
         originalKeyHeld = _state.isSaving = _state.isExporting = false;
-        _backends.release();
+        _backends.hold([]);
+        _backends.scriptRuns(0, "", "");
         _controls.reset();
         settle();
         for (const path of paths)
@@ -43,6 +43,7 @@ Item {
             _controls.loadImages(paths);
         settle();
         forget();
+        log = [];
     }
 
     function forget(): void {
@@ -53,17 +54,17 @@ Item {
     // Until what was deferred has happened, which may defer more.
     function turns(): void {
         for (let i = 0; i < 6; ++i)
-            testCase.wait(0);
+            wait(0);
     }
 
     // Until all that is under way has ended, too, and what that deferred.
     function settle(): void {
         const start = Date.now();
         for (let quiet = 0; quiet < 8; ++quiet) {
-            testCase.wait(0);
+            wait(0);
             if (_reader.loading || _engine.processing || _state.autopilotRunning)
                 quiet = 0;
-            testCase.verify(Date.now() - start < 60000, "work that does not end");
+            verify(Date.now() - start < 60000, "work that does not end");
         }
     }
 
@@ -71,7 +72,7 @@ Item {
     function runs(): list<var> {
         settle();
         const runs = _backends.runs();
-        testCase.compare(runs.length, answers);
+        compare(runs.length, answers);
         return runs;
     }
 
@@ -84,8 +85,8 @@ Item {
         settle();
     }
 
-    width: 800
-    height: 600
+    width: 900
+    height: 700
 
     FakeBackends {
         id: _backends
@@ -145,7 +146,8 @@ Item {
     }
     ImagePreview {
         id: _preview
-        anchors.fill: parent
+        width: _top.seenWidth
+        height: 600
         engine: _engine
         windowState: _state
         settings: _settings
@@ -160,6 +162,6 @@ Item {
         panel: _panel
         windowState: _state
         settings: _settings
-        onLoadingFailed: (path, error) => _top.loadingFailed(path, error)
+        onLoadingFailed: path => _top.log.push(path)
     }
 }

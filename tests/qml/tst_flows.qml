@@ -3,38 +3,31 @@ import QtTest
 import TImageSettings
 import imageenhance
 
-TestCase {
-    id: _case
+WindowParts {
+    id: parts
 
     name: "Flows"
 
-    property var log: []
-
-    WindowParts {
-        id: parts
-        testCase: _case
-        onLoadingFailed: (path, error) => _case.log.push(path)
-    }
     ClosingFlow {
         id: closing
         controls: parts.controls
         engine: parts.engine
-        onAskToClose: _case.log.push("ask")
+        onAskToClose: parts.log.push("ask")
     }
     ClosingSeveralFlow {
         id: several
         controls: parts.controls
-        onAskToCloseSelected: _case.log.push("ask")
-        onAskToCloseAll: _case.log.push("ask")
+        onAskToCloseSelected: parts.log.push("ask")
+        onAskToCloseAll: parts.log.push("ask")
     }
     QuitFlow {
         id: quit
         imageOpen: parts.windowState.imageOpen
         settings: parts.settings
         osUtils: parts.helpers.osUtils
-        onAskToQuit: _case.log.push("ask")
-        onCloseWindow: _case.log.push("close")
-        onLeaving: _case.log.push("leaving")
+        onAskToQuit: parts.log.push("ask")
+        onCloseWindow: parts.log.push("close")
+        onLeaving: parts.log.push("leaving")
     }
 
     function initTestCase(): void {
@@ -49,20 +42,20 @@ TestCase {
         parts.controls.selectedImages = [0];
         closing.cancel();
         several.cancel();
-        log = [];
     }
 
     // From a path to a picture
 
     function test_picture_is_read_analysed_given_filters_and_run_once(): void {
         parts.open([]);
+        compare(parts.pipeline.autopilot.stepsOfNewImage(), ["loading", "params", "final", "faces"]);
         parts.backends.addFile("/new.jpg", 1000, 800);
-        parts.backends.holdAnalyses(true);
+        parts.backends.hold(["analyses"]);
         parts.controls.loadImages(["/new.jpg"]);
         tryVerify(() => parts.backends.analyses().length === 1, 60000);
         compare(parts.windowState.autopilotRunning, true);
         compare(parts.backends.analyses(), [{ uid: parts.engine.inputImage.uid, regenerateMask: true, forceFaceDetect: false }]);
-        parts.backends.holdAnalyses(false);
+        parts.backends.hold([]);
         const runs = parts.runs();
         compare(runs.map(run => [run.path, run.order, run.region]), [["/new.jpg", ["Denoise", "Sharpen"], parts.preview.procRoi]]);
         compare(runs[0].params.Sharpen.params, { p: 1 });
@@ -89,12 +82,12 @@ TestCase {
     }
 
     function test_new_analysis_ends_the_run(): void {
-        parts.backends.holdRuns(true);
+        parts.backends.hold(["runs"]);
         parts.controls.setFilterOrder(["Sharpen"]);
         tryVerify(() => parts.engine.processing, 60000);
         parts.pipeline.autopilot.runFaceDetection();
         tryVerify(() => parts.cancelled === 1, 60000);
-        parts.backends.holdRuns(false);
+        parts.backends.hold([]);
         parts.settle();
         compare(parts.backends.analyses().map(asked => asked.forceFaceDetect), [true]);
     }
@@ -130,15 +123,11 @@ TestCase {
 
     function test_answers(row): void {
         const uid = row.uid ?? parts.engine.inputImage.uid;
-        parts.backends.holdReads(true);
+        parts.backends.hold(["reads"]);
         parts.controls.setCurrentIndex(row.index ?? 0);
         parts.controls.setAutoPilotStatus(TImageSettings.Processing);
         parts.engine.autoPilotFinished(uid, { Denoise: { enabled: true } });
         compare(parts.controls.currentControls.autoPilot === TImageSettings.On, row.landed);
-    }
-
-    function test_steps_follow_the_settings(): void {
-        compare(parts.pipeline.autopilot.stepsOfNewImage(), ["loading", "params", "final", "faces"]);
     }
 
     function test_file_that_cannot_be_read_is_closed(): void {

@@ -3,35 +3,25 @@ import QtTest
 import Testing
 import imageenhance
 
-TestCase {
-    id: _case
+WindowParts {
+    id: parts
 
     name: "HostConnection"
 
-    property var log: []
-
-    WindowParts {
-        id: parts
-        testCase: _case
-    }
-    Component {
-        id: hosts
-        HostConnection {
-            integrations: parts.backends.host
-            intercom: parts.backends.intercom
-            controls: parts.controls
-            onLoadingFailed: (path, error) => _case.log.push([path, error])
-            onTrack: (name, properties) => _case.log.push([name, properties.a])
-        }
+    HostConnection {
+        id: host
+        integrations: parts.backends.host
+        intercom: parts.backends.intercom
+        controls: parts.controls
+        onLoadingFailed: (path, error) => parts.log.push([path, error])
+        onTrack: (name, properties) => parts.log.push([name, properties.a])
     }
 
     function init(): void {
         parts.open([]);
-        log = [];
     }
 
     function test_burst_of_instances_does_not_move_the_view(): void {
-        const host = createTemporaryObject(hosts, this);
         const integrations = parts.backends.host;
         integrations.pluginImagesAdded(["/a.jpg"], false);
         integrations.pluginImagesAdded(["/b.jpg"], true);
@@ -42,7 +32,6 @@ TestCase {
     }
 
     function test_messages_of_others(): void {
-        createTemporaryObject(hosts, this);
         const integrations = parts.backends.host;
         parts.backends.intercom.isServer = true;
         compare(parts.backends.intercom.key, integrations.mergableInstanceKey, "an instance that took over takes merges");

@@ -1,39 +1,27 @@
 import QtQuick
 import QtTest
-import TControls
-import TImageProcessor
-import TImageUtils
-import TQmlUtils
 import PebbleUI
 import imageenhance
 
-// What a user reads about files that can't be opened or shown, what is asked before images are closed, and that one
-// dialog stands at a time.
-TestCase {
-    id: _case
+// What a user reads about files that can't be opened or shown and about the disk, what is asked before images are
+// closed, and that one dialog stands at a time.
+WindowParts {
+    id: parts
 
     name: "Notices"
     when: windowShown
     visible: true
-    width: 800
-    height: 600
 
-    readonly property string here: _imageUtils.urlToString(Qt.resolvedUrl("main.cpp"))
+    readonly property string here: helpers.imageUtils.urlToString(Qt.resolvedUrl("main.cpp"))
 
-    OSUtils {
-        id: _osUtils
-    }
-    TImageUtils {
-        id: _imageUtils
-    }
     Component {
         id: windows
 
         Item {
             readonly property alias queue: _queue
+            readonly property alias toaster: _toaster
             readonly property alias notices: _notices
             readonly property alias closing: _closing
-            readonly property alias controls: _controls
 
             DialogQueue {
                 id: _queue
@@ -41,28 +29,19 @@ TestCase {
             Toaster {
                 id: _toaster
             }
-            TControls {
-                id: _controls
-            }
-            TEngineController {
-                id: _engine
-            }
-            MainSettings {
-                id: _settings
-            }
             WindowNotices {
                 id: _notices
-                osUtils: _osUtils
-                imageUtils: _imageUtils
+                osUtils: parts.helpers.osUtils
+                imageUtils: parts.helpers.imageUtils
                 toaster: _toaster
                 queue: _queue
             }
             ClosingQuestions {
                 id: _closing
-                controls: _controls
-                engine: _engine
-                osUtils: _osUtils
-                settings: _settings
+                controls: parts.controls
+                engine: parts.engine
+                osUtils: parts.helpers.osUtils
+                settings: parts.settings
                 queue: _queue
                 imageOpen: true
             }
@@ -95,8 +74,8 @@ TestCase {
             { tag: "missing alone", tell: n => n.invalidImages(["/gone.jpg"]), message: "Cannot open file: /gone.jpg", details: "The file does not exist." },
             { tag: "unsupported, twice", tell: n => { n.invalidImages([here]); n.invalidImages([here]); }, message: "due to unsupported file types.", details: here },
             { tag: "many unsupported", tell: n => n.invalidImages(many), message: "due to unsupported file types.", details: many.slice(0, 8).join("\n") + "\nand 4 more" },
-            { tag: "missing in the shell", tell: () => _osUtils.fileMissing("/b/gone.jpg"), message: "Cannot show gone.jpg because it is missing.", details: "Previous location: /b/gone.jpg" },
-            { tag: "shell failed", tell: () => _osUtils.showFileError("/a.jpg"), message: "An error occurred", details: "File location: /a.jpg" }
+            { tag: "missing in the shell", tell: () => helpers.osUtils.fileMissing("/b/gone.jpg"), message: "Cannot show gone.jpg because it is missing.", details: "Previous location: /b/gone.jpg" },
+            { tag: "shell failed", tell: () => helpers.osUtils.showFileError("/a.jpg"), message: "An error occurred", details: "File location: /a.jpg" }
         ];
     }
 
@@ -112,8 +91,8 @@ TestCase {
     function test_notices_stand_one_after_the_other(): void {
         const window = createTemporaryObject(windows, this);
         window.notices.invalidImages([here, "/gone.jpg"]);
-        _osUtils.fileMissing("/b.jpg");
-        _osUtils.fileMissing("/b.jpg");
+        helpers.osUtils.fileMissing("/b.jpg");
+        helpers.osUtils.fileMissing("/b.jpg");
         for (const message of ["Cannot open file: /gone.jpg", "unsupported file types", "Cannot show b.jpg"]) {
             const dialog = standing(window);
             verify(dialog.messageText.includes(message), dialog.messageText);
@@ -125,10 +104,27 @@ TestCase {
         compare(standing(window).messageText, "Cannot open file: /c.jpg", "what was read is not told again");
     }
 
+    function test_low_space_data(): var {
+        return [
+            { tag: "low", critical: false, title: "Low Disk Space", has: "less than 5GB of free space left on C.", type: Toaster.Type.Warn },
+            { tag: "critical", critical: true, title: "Critically Low Disk Space", has: "less than 1GB of free space left on C.", type: Toaster.Type.Error }
+        ];
+    }
+
+    function test_low_space(row): void {
+        const window = createTemporaryObject(windows, this);
+        window.notices.lowSpace("C", row.critical);
+        window.notices.lowSpace("C", row.critical);
+        compare(window.toaster.count, 1);
+        const toast = Array.from(window.toaster.children).find(item => item instanceof ListView).model.get(0);
+        compare([toast.title, toast.type, toast.timeout], [row.title, row.type, window.toaster.timeoutNone]);
+        verify(toast.message.includes(row.has), toast.message);
+    }
+
     // The second click of a double click on a notice lands on the question that comes in its place.
     function test_question_takes_no_click_meant_for_a_notice(): void {
         const window = createTemporaryObject(windows, this);
-        window.controls.loadImages(["/a.jpg", "/b.jpg"]);
+        open(["/a.jpg", "/b.jpg"]);
         window.notices.cannotRead("/c.jpg", "No picture.");
         window.closing.closeAllImages();
         const notice = standing(window);
@@ -137,22 +133,22 @@ TestCase {
         verify(question !== notice);
         press(question, "Close");
         verify(question.opened);
-        compare(window.controls.loadedImages.length, 2);
+        compare(controls.loadedImages.length, 2);
         tryVerify(() => question.settled, 60000);
         press(question, "Close");
-        compare(window.controls.loadedImages.length, 0);
+        compare(controls.loadedImages.length, 0);
         compare(window.queue.count, 0);
     }
 
     // What it was asked about has changed: its answer would close others.
     function test_question_goes_with_its_images(): void {
         const window = createTemporaryObject(windows, this);
-        window.controls.loadImages(["/a.jpg", "/b.jpg"]);
+        open(["/a.jpg", "/b.jpg"]);
         window.closing.closeAllImages();
         const question = standing(window);
-        window.controls.closeImage(0);
+        controls.closeImage(0);
         verify(!question.visible);
         question.accepted();
-        compare(window.controls.loadedImages, ["/b.jpg"]);
+        compare(controls.loadedImages, ["/b.jpg"]);
     }
 }

@@ -4,29 +4,23 @@ import Testing
 import TImageSettings
 import imageenhance
 
-TestCase {
-    id: _case
+WindowParts {
+    id: parts
 
     name: "ProcScheduler"
     when: windowShown
     visible: true
-    width: 900
-    height: 700
 
     LogLines {
-        id: log
-    }
-    WindowParts {
-        id: parts
-        testCase: _case
+        id: lines
     }
 
     function initTestCase(): void {
-        parts.helpers.mouseListener.listenTo(_case.Window.window);
+        parts.helpers.mouseListener.listenTo(parts.Window.window);
     }
 
     function init(): void {
-        parts.width = 800;
+        seenWidth = 800;
         parts.open(["/a.jpg"]);
     }
 
@@ -56,33 +50,14 @@ TestCase {
     }
 
     function test_new_run_ends_the_one_before(): void {
-        parts.backends.holdRuns(true);
+        parts.backends.hold(["runs"]);
         change();
         tryVerify(() => parts.engine.processing, 60000);
         change();
         tryVerify(() => parts.cancelled === 1, 60000);
-        parts.backends.holdRuns(false);
+        parts.backends.hold([]);
         parts.settle();
         compare([parts.answers, parts.engine.procResult.changesCount], [2, parts.controls.currentControls.changesCount]);
-    }
-
-    function test_gates_data(): var {
-        return [
-            { tag: "open", shut: () => {}, runs: true },
-            { tag: "loading", shut: () => { parts.backends.holdReads(true); parts.reader.reload(); } },
-            { tag: "Autopilot runs", shut: () => parts.controls.setAutoPilotStatus(TImageSettings.Processing) },
-            { tag: "exporting", shut: () => parts.windowState.isExporting = true },
-            { tag: "the last image went", shut: () => parts.controls.reset() }
-        ];
-    }
-
-    function test_gates(row): void {
-        parts.makeStale();
-        row.shut();
-        parts.pipeline.scheduler.procCurrentRoi();
-        compare(parts.engine.processing, row.runs === true);
-        if (row.tag === "Autopilot runs")
-            parts.controls.setAutoPilotStatus(TImageSettings.On);
     }
 
     function test_only_what_the_last_result_does_not_cover_is_run(): void {
@@ -105,26 +80,25 @@ TestCase {
 
     // All of them are shut; each that opens leaves the word to the next.
     function test_gates_speak_in_their_order(): void {
-        parts.backends.holdReads(true);
-        parts.backends.holdAnalyses(true);
+        parts.backends.hold(["reads", "analyses"]);
         parts.windowState.isExporting = true;
         parts.controls.setParams("Enhance", { updated: true });
         parts.controls.setAutoPilotStatus(TImageSettings.Processing);
         parts.reader.reload();
         const gates = [
-            { line: "[PROC] Ignoring proc call while running loading image", open: () => { parts.backends.holdReads(false); tryVerify(() => !parts.reader.loading, 60000); } },
-            { line: "[PROC] Ignoring proc call while running AP", open: () => { parts.backends.holdAnalyses(false); parts.settle(); } },
-            { line: "[PROC] Ignoring proc call while exporting", open: () => { parts.width = 0; parts.windowState.isExporting = false; } },
-            { line: "Skipping proc due to update flag on Enhance", open: () => { parts.width = 800; parts.settle(); parts.width = 0; } },
+            { line: "[PROC] Ignoring proc call while running loading image", open: () => { parts.backends.hold(["analyses"]); tryVerify(() => !parts.reader.loading, 60000); } },
+            { line: "[PROC] Ignoring proc call while running AP", open: () => { parts.backends.hold([]); parts.settle(); } },
+            { line: "[PROC] Ignoring proc call while exporting", open: () => { parts.seenWidth = 0; parts.windowState.isExporting = false; } },
+            { line: "Skipping proc due to update flag on Enhance", open: () => { parts.seenWidth = 800; parts.settle(); parts.seenWidth = 0; } },
             { line: "Skipping proc due to previous proc already covering new roi", open: () => change() },
-            { line: "[PROC] Ignoring proc call without an image", open: () => parts.width = 800 },
+            { line: "[PROC] Ignoring proc call without an image", open: () => parts.seenWidth = 800 },
             { line: "[PROC] Cancelling old proc due to new request,[PROC] Starting proc" }
         ];
         for (const gate of gates) {
             verify(!parts.engine.processing);
-            log.begin();
+            lines.begin();
             parts.pipeline.scheduler.procCurrentRoi();
-            compare(log.end().join(","), gate.line);
+            compare(lines.end().join(","), gate.line);
             gate.open?.();
         }
         verify(parts.engine.processing);
@@ -132,17 +106,17 @@ TestCase {
 
     function test_drag_of_a_slider_makes_one_request_at_release(): void {
         const scheduler = parts.pipeline.scheduler;
-        mousePress(_case, 880, 680);
+        mousePress(parts, 880, 680);
         for (let i = 0; i < 10; ++i) {
             change();
             wait(0);
         }
         compare(parts.runs().length, 0);
         verify(scheduler.queuedProc);
-        mouseRelease(_case, 880, 680);
+        mouseRelease(parts, 880, 680);
         compare(parts.runs().length, 1);
         verify(!scheduler.queuedProc);
-        mouseClick(_case, 880, 680);
+        mouseClick(parts, 880, 680);
         compare(parts.runs().length, 1, "a click that changed nothing asks for nothing");
     }
 
@@ -158,39 +132,34 @@ TestCase {
         compare(parts.runs().length, 1);
     }
 
-    function test_changed_settings_that_ask_for_nothing_data(): var {
+    // Changed settings, or a changed view that shows older ones.
+    function test_what_asks_for_a_run_data(): var {
         return [
-            { tag: "seen", asks: true },
-            { tag: "mask being edited", set: () => parts.editMode = EditMode.Subject },
-            { tag: "text being selected", set: () => parts.editMode = EditMode.Text },
-            { tag: "original shown", set: () => parts.originalKeyHeld = true },
-            { tag: "no picture", set: () => parts.windowState.isSaving = true },
-            { tag: "nothing seen", set: () => parts.width = 0 }
-        ];
-    }
-
-    function test_changed_settings_that_ask_for_nothing(row): void {
-        row.set?.();
-        parts.settle();
-        change();
-        compare(parts.runs().length, row.asks ? 1 : 0);
-    }
-
-    function test_changed_view_that_asks_for_nothing_data(): var {
-        return [
-            { tag: "at rest", asks: true },
-            { tag: "still moving", set: () => mousePress(parts.preview, 400, 300) },
-            { tag: "no image", set: () => parts.controls.reset() },
+            { tag: "settings", settings: true, asks: true },
+            { tag: "mask being edited", settings: true, set: () => parts.editMode = EditMode.Subject },
+            { tag: "text being selected", settings: true, set: () => parts.editMode = EditMode.Text },
+            { tag: "original shown", settings: true, set: () => parts.originalKeyHeld = true },
+            { tag: "no picture", settings: true, set: () => parts.windowState.isSaving = true },
+            { tag: "nothing seen", settings: true, set: () => parts.seenWidth = 0 },
+            { tag: "view", asks: true },
+            { tag: "view still moving", set: () => mousePress(parts.preview, 400, 300) },
+            { tag: "view without an image", set: () => parts.controls.reset() },
             { tag: "panel moves", set: () => { parts.settings.rightPanelCollapsed = true; tryVerify(() => parts.panel.animating, 60000); } },
-            { tag: "empty region", roi: Qt.rect(5, 5, 0, 40) }
+            { tag: "empty view", roi: Qt.rect(5, 5, 0, 40) }
         ];
     }
 
-    function test_changed_view_that_asks_for_nothing(row): void {
+    function test_what_asks_for_a_run(row): void {
         const roi = row.roi ?? parts.preview.procRoi;
         parts.makeStale();
         row.set?.();
-        parts.preview.requestProc(roi);
+        if (row.settings) {
+            parts.settle();
+            parts.forget();
+            change();
+        } else {
+            parts.preview.requestProc(roi);
+        }
         parts.turns();
         compare(parts.answers > 0 || parts.engine.processing, row.asks === true);
         mouseRelease(parts.preview, 400, 300);

@@ -2,15 +2,11 @@ import QtQuick
 import QtTest
 import imageenhance
 
-TestCase {
-    id: _case
+WindowParts {
+    id: parts
 
     name: "Selections"
 
-    WindowParts {
-        id: parts
-        testCase: _case
-    }
 
     function init(): void {
         parts.open(["/a.jpg", "/b.jpg"]);
@@ -49,7 +45,7 @@ TestCase {
         parts.controls.setSubjectSettings("Denoise", { model: "Sky" });
         tryVerify(() => parts.backends.masks().length > 0, 60000);
         compare(parts.backends.masks(), [{ uid: parts.engine.inputImage.uid, settings: { model: "Sky" } }]);
-        parts.backends.holdReads(true);
+        parts.backends.hold(["reads"]);
         parts.controls.setCurrentIndex(1);
         parts.forget();
         parts.controls.setSubjectSettings("Denoise", { model: "Sky" });

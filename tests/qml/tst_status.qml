@@ -2,17 +2,13 @@ import QtQuick
 import QtTest
 import imageenhance
 
-TestCase {
-    id: _case
+WindowParts {
+    id: parts
 
     name: "StatusRules"
 
     readonly property var usual: ({ editMode: EditMode.None, imageLoaded: true, isLoadingImage: false, isRunningAutopilot: false, originalRequested: false, noFiltersEnabled: false, previewUpdated: true, panningOffProcessedArea: false, inpaintLocked: false })
 
-    WindowParts {
-        id: parts
-        testCase: _case
-    }
     Component {
         id: rules
         StatusRules {}
@@ -51,7 +47,7 @@ TestCase {
         const run = row.run ?? {};
         const engine = parts.engine;
         parts.backends.scriptRuns(run.progress ?? 0, run.stage ?? "", run.ends ?? "");
-        parts.backends.holdRuns(run.ends === undefined);
+        parts.backends.hold(run.ends === undefined ? ["runs"] : []);
         engine.startProc(engine.inputImage, Qt.rect(0, 0, 8, 8), {}, [], false);
         tryVerify(() => run.ends === undefined ? engine.progress === (run.progress ?? 0) : !engine.processing, 60000);
         const status = createTemporaryObject(rules, this, Object.assign({ engine }, usual, row.rules));
@@ -60,7 +56,8 @@ TestCase {
             if (row.rules.imageLoaded !== false)
                 compare(status[indicator], row.shows === indicator, indicator);
         }
-        parts.backends.release();
+        parts.backends.hold([]);
+        parts.backends.scriptRuns(0, "", "");
         engine.startProc(engine.inputImage, Qt.rect(0, 0, 8, 8), {}, [], false); // ends without an error
         parts.settle();
     }

@@ -4,7 +4,7 @@ import TImageUtils
 import TQmlUtils
 import imageenhance
 
-// What the window keeps by itself: the recent files, and which keys are held.
+// What the window keeps by itself: the recent files, which keys are held, and what the user did how often.
 TestCase {
     name: "Window"
 
@@ -26,6 +26,11 @@ TestCase {
     KeyState {
         id: keys
         osUtils: osUtils
+    }
+    UsageCounts {
+        id: usage
+        panelCollapsed: true
+        panelDocked: true
     }
 
     function test_recent_files_data(): var {
@@ -71,5 +76,13 @@ TestCase {
         verify(!keys.pressed(Qt.Key_A, Qt.NoModifier, false));
         keys.reset();
         verify(!keys.spaceHeld, "what was missed while another window had the keyboard");
+    }
+
+    function test_only_what_the_user_does_counts(): void {
+        compare([usage.sidebarToggled, usage.menuDockedToggled], [0, 0], "the stored values are no toggling");
+        usage.panelCollapsed = false;
+        usage.panelCollapsed = true;
+        usage.panelDocked = false;
+        compare([usage.sidebarToggled, usage.menuDockedToggled], [2, 1]);
     }
 }
