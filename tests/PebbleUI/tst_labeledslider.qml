@@ -74,22 +74,19 @@ PebbleCase {
         compare(count, 1);
     }
 
-    function test_dot_data(): var {
-        return [
-            { tag: "dark, at Autopilot's value", dark: true, value: 70, auto: 70, shown: true },
-            { tag: "dark, changed", dark: true, value: 50, auto: 70, shown: true },
-            { tag: "light, at Autopilot's value", dark: false, value: 70, auto: 70, shown: true },
-            { tag: "light, changed", dark: false, value: 50, auto: 70, shown: false },
-            { tag: "no Autopilot", dark: true, value: 50, auto: -1, shown: false },
-        ];
-    }
-
-    function test_dot(row: var): void {
-        PebbleStyle.darkMode = row.dark;
-        const slider = make({ value: row.value, autoValue: row.auto });
-        const dot = findChild(slider, "autoDot");
-        compare(dot.visible, row.shown);
-        compare(dot.modified, row.value !== row.auto);
+    function test_dot(): void {
+        for (const [name, dark, value, auto, shown] of [
+            ["dark, at Autopilot's value", true, 70, 70, true],
+            ["dark, changed", true, 50, 70, true],
+            ["light, at Autopilot's value", false, 70, 70, true],
+            ["light, changed", false, 50, 70, false],
+            ["no Autopilot", true, 50, -1, false],
+        ]) {
+            PebbleStyle.darkMode = dark;
+            const dot = findChild(make({ value: value, autoValue: auto }), "autoDot");
+            compare(dot.visible, shown, name);
+            compare(dot.modified, value !== auto, name);
+        }
     }
 
     function test_tab_goes_from_field_to_slider_to_the_next(): void {

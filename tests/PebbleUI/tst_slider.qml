@@ -6,10 +6,7 @@ PebbleCase {
     id: _top
     name: "Slider"
 
-    QtObject {
-        id: _model
-        property real strength: 40
-    }
+    property real strength: 40
 
     Flickable {
         id: _panel
@@ -21,7 +18,7 @@ PebbleCase {
             x: 20
             y: 20
             width: 212
-            value: _model.strength
+            value: _top.strength
         }
     }
 
@@ -30,8 +27,8 @@ PebbleCase {
 
     function reset(): void {
         wait(PebbleStyle.time.doublePress + 20);
-        _model.strength = 40.5;
-        _model.strength = 40;
+        strength = 40.5;
+        strength = 40;
         _slider.from = 0;
         _slider.to = 100;
         _slider.defaultValue = 10;
@@ -46,8 +43,7 @@ PebbleCase {
     }
 
     function test_default_is_the_first_value(): void {
-        const slider = createTemporaryQmlObject("import PebbleUI; PbSlider { value: 33 }", _top);
-        compare(slider.defaultValue, 33);
+        compare(createTemporaryQmlObject("import PebbleUI; PbSlider { value: 33 }", _top).defaultValue, 33);
     }
 
     function test_double_press_data(): var {
@@ -73,7 +69,7 @@ PebbleCase {
         }
         atHandle(mouseRelease);
         verify(_finished.count >= 2);
-        _model.strength = 55;
+        strength = 55;
         compare(_slider.value, 55, "the binding still holds");
     }
 
@@ -87,20 +83,14 @@ PebbleCase {
         verify(_moved.count >= 1);
     }
 
-    function test_keys_data(): var {
-        return [
-            { tag: "Right", key: Qt.Key_Right, value: 41 },
-            { tag: "Left", key: Qt.Key_Left, value: 39 },
-            { tag: "Delete", key: Qt.Key_Delete, value: 10 },
-            { tag: "Backspace", key: Qt.Key_Backspace, value: 10 },
-        ];
-    }
-
-    function test_keys(row: var): void {
+    function test_keys(): void {
         focusByKeyboard(_slider);
-        keyClick(row.key);
-        compare(_slider.value, row.value);
-        compare(_finished.count, 1);
+        for (const [key, value] of [[Qt.Key_Right, 41], [Qt.Key_Delete, 10], [Qt.Key_Left, 9], [Qt.Key_Backspace, 10]]) {
+            _finished.clear();
+            keyClick(key);
+            compare(_slider.value, value);
+            compare(_finished.count, 1);
+        }
     }
 
     // Scrolling through a panel must not change what lies under the pointer.
@@ -132,7 +122,7 @@ PebbleCase {
         compare(mark.height, 8);
         compare(mark.width, 1);
         tryCompare(mark, "opacity", 1);
-        _model.strength = row.auto;
+        strength = row.auto;
         tryCompare(mark, "opacity", 0);
     }
 }

@@ -47,9 +47,10 @@ struct Case {
     }
 };
 
-inline Case with(double noise, double blur) {
+inline Case with(double noise, double blur, BlurKind kind = BlurKind::Soft) {
     Case c;
     c.statistics = measured(noise, blur);
+    c.statistics.blurKind = kind;
     return c;
 }
 
