@@ -100,29 +100,28 @@ PebbleCase {
         compare(_slider.value, 40);
     }
 
-    function test_mark_data(): var {
-        return [
+    function test_mark(): void {
+        for (const row of [
             { tag: "at a quarter", from: 0, to: 100, auto: 25, x: 55.5, shown: true },
             { tag: "at the start", from: -25, to: 75, auto: -25, x: 5.5, shown: true },
             { tag: "at the end", from: 1, to: 100, auto: 100, x: 205.5, shown: true },
             { tag: "below the range", from: 1, to: 100, auto: -1, x: NaN, shown: false },
             { tag: "inside a range that goes below zero", from: -25, to: 75, auto: -1, x: 53.5, shown: true },
-        ];
-    }
-
-    function test_mark(row: var): void {
-        _slider.from = row.from;
-        _slider.to = row.to;
-        _slider.autoValue = row.auto;
-        const mark = findChild(_slider, "autoMark");
-        compare(mark.visible, row.shown);
-        if (!row.shown)
-            return;
-        fuzzyCompare(mark.x, row.x, 0.001);
-        compare(mark.height, 8);
-        compare(mark.width, 1);
-        tryCompare(mark, "opacity", 1);
-        strength = row.auto;
-        tryCompare(mark, "opacity", 0);
+        ]) {
+            strength = 40;
+            _slider.from = row.from;
+            _slider.to = row.to;
+            _slider.autoValue = row.auto;
+            const mark = findChild(_slider, "autoMark");
+            compare(mark.visible, row.shown, row.tag);
+            if (!row.shown)
+                continue;
+            fuzzyCompare(mark.x, row.x, 0.001);
+            compare(mark.height, 8, row.tag);
+            compare(mark.width, 1, row.tag);
+            tryCompare(mark, "opacity", 1);
+            strength = row.auto;
+            tryCompare(mark, "opacity", 0);
+        }
     }
 }

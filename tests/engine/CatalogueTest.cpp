@@ -4,8 +4,6 @@
 
 #include <QFile>
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 using namespace Qt::StringLiterals;

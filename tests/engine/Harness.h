@@ -4,6 +4,8 @@
 
 #include <QImage>
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <string>
 #include <vector>

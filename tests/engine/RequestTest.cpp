@@ -1,7 +1,5 @@
 #include "Harness.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 TEST(Requests, FailuresSayWhat) {

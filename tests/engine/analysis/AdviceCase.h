@@ -2,6 +2,8 @@
 
 #include "engine/analysis/Analyse.h"
 
+#include <gtest/gtest.h>
+
 /// Made-up measurements and what Autopilot answers to them.
 namespace AdviceCase {
 

@@ -1,7 +1,5 @@
 #include "AdviceCase.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 
 using namespace AdviceCase;

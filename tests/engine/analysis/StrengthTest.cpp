@@ -1,8 +1,6 @@
 #include "AdviceCase.h"
 #include "engine/analysis/Thresholds.h"
 
-#include <gtest/gtest.h>
-
 using namespace AdviceCase;
 
 TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
