@@ -6,76 +6,52 @@ PebbleCase {
     id: _top
     name: "Button"
 
-    Item {
-        id: _shortcuts
-        focus: true
-    }
+    maker: Component { PbButton { text: "Save"; type: PbButton.Type.Secondary } }
+    spied: "clicked"
 
-    PbButton {
-        id: _button
-        x: 20
-        y: 20
-        text: "Save"
-        type: PbButton.Type.Secondary
-    }
-
-    PbButton {
-        id: _icon
-        x: 200
-        y: 20
-        compact: true
-        iconSource: PebbleStyle.icon.trash
-        tooltip.text: "Remove"
-    }
-
-    SignalSpy { id: _clicks; target: _button; signalName: "clicked" }
+    Item { id: _shortcuts; focus: true }
 
     function reset(): void {
         mouseMove(_top, 399, 299);
-        _button.enabled = true;
-        _button.selected = false;
         _shortcuts.forceActiveFocus();
-        _clicks.clear();
     }
 
-    function test_pressed_by_data(): var {
-        return [
-            { tag: "Space", key: Qt.Key_Space },
-            { tag: "Return", key: Qt.Key_Return },
-            { tag: "Enter", key: Qt.Key_Enter },
-        ];
-    }
-
-    function test_pressed_by(row: var): void {
+    function test_pressed_by_key(): void {
+        const button = make();
         keyClick(Qt.Key_Tab);
-        verify(_button.activeFocus);
-        keyClick(row.key);
-        compare(_clicks.count, 1);
-        _button.enabled = false;
-        keyClick(row.key);
-        compare(_clicks.count, 1);
+        verify(button.activeFocus);
+        const keys = [Qt.Key_Space, Qt.Key_Return, Qt.Key_Enter];
+        for (const [index, key] of keys.entries()) {
+            keyClick(key);
+            compare(count, index + 1);
+        }
+        button.enabled = false;
+        press(keys);
+        compare(count, keys.length);
     }
 
     function test_click_leaves_the_keyboard_alone(): void {
-        mouseClick(_button);
-        compare(_clicks.count, 1);
+        mouseClick(make());
+        compare(count, 1);
         verify(_shortcuts.activeFocus);
     }
 
     function test_background_takes_the_first_state_that_holds(): void {
-        const colors = _button.style.background;
-        compare(_button.background.color, colors.normal);
-        _button.selected = true;
-        compare(_button.background.color, colors.selected);
-        mouseMove(_button, 5, 5);
-        compare(_button.background.color, colors.hovered);
-        _button.enabled = false;
-        compare(_button.background.color, colors.disabled);
+        const button = make();
+        const colors = button.style.background;
+        compare(button.background.color, colors.normal);
+        button.selected = true;
+        compare(button.background.color, colors.selected);
+        mouseMove(button, 5, 5);
+        compare(button.background.color, colors.hovered);
+        button.enabled = false;
+        compare(button.background.color, colors.disabled);
     }
 
     function test_icon_button_has_a_name(): void {
-        compare(_icon.Accessible.name, "Remove");
-        compare(_icon.height, 28);
-        verify(_icon.width >= 28);
+        const icon = make({ compact: true, text: "", iconSource: PebbleStyle.icon.trash, "tooltip.text": "Remove" });
+        compare(icon.Accessible.name, "Remove");
+        compare(icon.height, 28);
+        verify(icon.width >= 28);
     }
 }

@@ -30,24 +30,20 @@ PebbleCase {
         parts = [];
     }
 
-    function test_set_value_data(): var {
-        return [
-            { tag: "known", value: "c", index: 2 },
-            { tag: "unknown", value: "nothing", index: 0 },
-            { tag: "undefined", value: undefined, index: 0 },
-            { tag: "other type", value: 2, index: 0 },
-            { tag: "plain texts", model: ["x", "y"], value: "y", index: 1, text: "y" },
-            { tag: "plain numbers", model: [6, 8], value: 8, index: 1, text: "8" },
-        ];
-    }
-
-    function test_set_value(row: var): void {
-        const box = make(row.model ? { model: row.model } : {});
-        box.currentIndex = 1;
-        box.setValue(row.value);
-        compare(box.currentIndex, row.index);
-        if (row.text)
-            compare(box.displayText, row.text);
+    function test_set_value(): void {
+        for (const [name, model, value, index, text] of [
+            ["known", entries, "c", 2, entries[2].text],
+            ["unknown", entries, "nothing", 0, "Alpha"],
+            ["undefined", entries, undefined, 0, "Alpha"],
+            ["other type", entries, 2, 0, "Alpha"],
+            ["plain texts", ["x", "y"], "y", 1, "y"],
+            ["plain numbers", [6, 8], 8, 1, "8"],
+        ]) {
+            const box = make({ model: model, currentIndex: 1 });
+            box.setValue(value);
+            compare(box.currentIndex, index, name);
+            compare(box.displayText, text, name);
+        }
     }
 
     function test_keys_that_open_data(): var {
@@ -82,8 +78,10 @@ PebbleCase {
         compare(count, 2);
     }
 
-    function test_choice_by_mouse(): void {
+    function test_choice_by_mouse_and_no_wheel(): void {
         const box = make();
+        mouseWheel(box, 10, 10, 0, -120);
+        compare(box.currentIndex, 0);
         openByMouse(box);
         mouseClick(rowOf(box, 1));
         tryVerify(() => !box.popup.visible);
@@ -91,29 +89,19 @@ PebbleCase {
         compare(box.currentValue, "b");
     }
 
-    function test_keyboard_in_a_list_that_a_click_opened_data(): var {
-        return [
-            { tag: "chosen", keys: [Qt.Key_Down, Qt.Key_Down, Qt.Key_Return], index: 2 },
-            { tag: "left", keys: [Qt.Key_Down, Qt.Key_Escape], index: 0 },
-        ];
-    }
-
-    function test_keyboard_in_a_list_that_a_click_opened(row: var): void {
+    function test_keyboard_in_a_list_that_a_click_opened(): void {
         const other = make({ y: 100 });
         focusByKeyboard(other);
         const box = make();
-        openByMouse(box);
-        press(row.keys);
-        tryVerify(() => !box.popup.visible);
-        compare(box.currentIndex, row.index);
-        compare(other.currentIndex, 0);
-        verify(other.activeFocus, "the keyboard is back where it was");
-    }
-
-    function test_wheel_over_a_closed_box_changes_nothing(): void {
-        const box = make();
-        mouseWheel(box, 10, 10, 0, -120);
-        compare(box.currentIndex, 0);
+        for (const [keys, index] of [[[Qt.Key_Down, Qt.Key_Escape], 0],
+                                     [[Qt.Key_Down, Qt.Key_Down, Qt.Key_Return], 2]]) {
+            openByMouse(box);
+            press(keys);
+            tryVerify(() => !box.popup.visible);
+            compare(box.currentIndex, index);
+            compare(other.currentIndex, 0);
+            verify(other.activeFocus, "the keyboard is back where it was");
+        }
     }
 
     function test_dots(): void {

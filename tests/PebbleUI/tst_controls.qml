@@ -44,9 +44,10 @@ PebbleCase {
         PbScrollBar { id: _lying; orientation: Qt.Horizontal; size: 0.25; width: 100; barWidth: 12 }
     }
 
-    function test_boxes_by_keyboard(): void {
+    function test_boxes_by_keyboard_and_by_mouse_which_leaves_the_keyboard_alone(): void {
+        const boxes = [_check, _radio, _switch];
         focusByKeyboard(_check);
-        for (const box of [_check, _radio, _switch]) {
+        for (const box of boxes) {
             verify(box.visualFocus);
             const ring = box.indicator.children.find(child => child instanceof PbFocusRing);
             verify(ring.visible);
@@ -55,11 +56,8 @@ PebbleCase {
             keyClick(Qt.Key_Tab);
             verify(!ring.visible);
         }
-    }
-
-    function test_boxes_by_mouse_leave_the_keyboard_alone(): void {
         _top.forceActiveFocus();
-        for (const box of [_check, _radio, _switch]) {
+        for (const box of boxes) {
             mouseClick(box, box.width - 4, box.height / 2);
             verify(!box.activeFocus);
         }

@@ -10,10 +10,7 @@ PebbleCase {
 
     property var pressed: []
 
-    Item {
-        id: _shortcuts
-        focus: true
-    }
+    Item { id: _shortcuts; focus: true }
 
     PbDialog {
         id: _dialog
@@ -149,8 +146,7 @@ PebbleCase {
         compare(message.contentY, 0);
         keyClick(Qt.Key_PageDown);
         compare(message.contentY, message.height);
-        for (let i = 0; i < 200; ++i)
-            keyClick(Qt.Key_PageDown);
+        press(Array(200).fill(Qt.Key_PageDown));
         compare(message.contentY, message.contentHeight - message.height);
     }
 }

@@ -78,27 +78,26 @@ PebbleCase {
         compare(grid.selectedItem, 0);
     }
 
-    function test_arrows_data(): var {
-        return [
-            { tag: "right", from: 0, key: Qt.Key_Right, to: 1 },
-            { tag: "right at the edge", from: 2, key: Qt.Key_Right, to: 2 },
-            { tag: "over a disabled one", from: 3, key: Qt.Key_Right, to: 5 },
-            { tag: "back over it", from: 5, key: Qt.Key_Left, to: 3 },
-            { tag: "down", from: 0, key: Qt.Key_Down, to: 3 },
-            { tag: "down to nothing", from: 1, key: Qt.Key_Down, to: 1 },
-            { tag: "up", from: 6, key: Qt.Key_Up, to: 3 },
-            { tag: "up at the edge", from: 2, key: Qt.Key_Up, to: 2 },
-        ];
-    }
-
-    function test_arrows(row: var): void {
+    function test_arrows(): void {
         const options = optionsOf(make());
-        focusByKeyboard(options[row.from]);
-        keyClick(row.key);
-        verify(options[row.to].visualFocus);
-        compare(chosen, 0, "arrows move the keyboard only");
-        keyClick(row.from % 2 ? Qt.Key_Space : Qt.Key_Return);
-        compare(chosen, row.to);
+        for (const [name, from, key, to] of [
+            ["right", 0, Qt.Key_Right, 1],
+            ["right at the edge", 2, Qt.Key_Right, 2],
+            ["over a disabled one", 3, Qt.Key_Right, 5],
+            ["back over it", 5, Qt.Key_Left, 3],
+            ["down", 0, Qt.Key_Down, 3],
+            ["down to nothing", 1, Qt.Key_Down, 1],
+            ["up", 6, Qt.Key_Up, 3],
+            ["up at the edge", 2, Qt.Key_Up, 2],
+        ]) {
+            chosen = 0;
+            focusByKeyboard(options[from]);
+            keyClick(key);
+            verify(options[to].visualFocus, name);
+            compare(chosen, 0, "arrows move the keyboard only");
+            keyClick(from % 2 ? Qt.Key_Space : Qt.Key_Return);
+            compare(chosen, to, name);
+        }
     }
 
     function test_reset(): void {

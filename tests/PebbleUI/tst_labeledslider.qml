@@ -12,8 +12,8 @@ PebbleCase {
         PebbleStyle.darkMode = true;
     }
 
-    function test_typing_data(): var {
-        return [
+    function test_typing(): void {
+        for (const row of [
             { tag: "a number", now: { value: 50 }, keys: "72", during: 72, text: "72", left: 72, leftText: "72" },
             { tag: "above the range", now: { value: 50 }, keys: "250", during: 25, text: "250", left: 50, leftText: "50" },
             { tag: "below the range", now: { from: 8, to: 25, value: 12 }, keys: "5", during: 12, text: "5", left: 12, leftText: "12" },
@@ -24,20 +24,18 @@ PebbleCase {
             { tag: "decimal comma", now: { to: 10, decimals: 1, value: 1 }, keys: "2,5", during: 2.5, text: "2.5", left: 2.5, leftText: "2.5" },
             { tag: "decimals above the range but below ten", now: { to: 1, decimals: 1, value: 0.5 }, keys: "5", during: 0.5, text: "5", left: 0.5, leftText: "0.5" },
             { tag: "decimals above ten are refused", now: { to: 100, decimals: 1, value: 5 }, keys: "25", during: 2, text: "2", left: 2, leftText: "2.0" },
-        ];
-    }
-
-    function test_typing(row: var): void {
-        const slider = make(row.now);
-        mouseClick(slider.textField);
-        compare(slider.textField.selectedText, slider.textField.text);
-        press(row.keys);
-        compare(slider.value, row.during);
-        compare(slider.textField.text, row.text);
-        keyClick(Qt.Key_Escape);
-        verify(!slider.textField.activeFocus);
-        compare(slider.value, row.left);
-        compare(slider.textField.text, row.leftText);
+        ]) {
+            const slider = make(row.now);
+            mouseClick(slider.textField);
+            compare(slider.textField.selectedText, slider.textField.text, row.tag);
+            press(row.keys);
+            compare(slider.value, row.during, row.tag);
+            compare(slider.textField.text, row.text, row.tag);
+            keyClick(Qt.Key_Escape);
+            verify(!slider.textField.activeFocus);
+            compare(slider.value, row.left, row.tag);
+            compare(slider.textField.text, row.leftText, row.tag);
+        }
     }
 
     function test_slider_rewrites_the_text(): void {
@@ -74,22 +72,19 @@ PebbleCase {
         compare(count, 1);
     }
 
-    function test_dot_data(): var {
-        return [
-            { tag: "dark, at Autopilot's value", dark: true, value: 70, auto: 70, shown: true },
-            { tag: "dark, changed", dark: true, value: 50, auto: 70, shown: true },
-            { tag: "light, at Autopilot's value", dark: false, value: 70, auto: 70, shown: true },
-            { tag: "light, changed", dark: false, value: 50, auto: 70, shown: false },
-            { tag: "no Autopilot", dark: true, value: 50, auto: -1, shown: false },
-        ];
-    }
-
-    function test_dot(row: var): void {
-        PebbleStyle.darkMode = row.dark;
-        const slider = make({ value: row.value, autoValue: row.auto });
-        const dot = findChild(slider, "autoDot");
-        compare(dot.visible, row.shown);
-        compare(dot.modified, row.value !== row.auto);
+    function test_dot(): void {
+        for (const [name, dark, value, auto, shown] of [
+            ["dark, at Autopilot's value", true, 70, 70, true],
+            ["dark, changed", true, 50, 70, true],
+            ["light, at Autopilot's value", false, 70, 70, true],
+            ["light, changed", false, 50, 70, false],
+            ["no Autopilot", true, 50, -1, false],
+        ]) {
+            PebbleStyle.darkMode = dark;
+            const dot = findChild(make({ value: value, autoValue: auto }), "autoDot");
+            compare(dot.visible, shown, name);
+            compare(dot.modified, value !== auto, name);
+        }
     }
 
     function test_tab_goes_from_field_to_slider_to_the_next(): void {

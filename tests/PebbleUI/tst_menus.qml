@@ -11,6 +11,13 @@ PebbleCase {
 
     property var chosen: []
 
+    component Choice: Action {
+        onTriggered: _top.chosen.push(text)
+    }
+    component Entry: PbMenuItem {
+        onTriggered: _top.chosen.push(text)
+    }
+
     PbMenuBar {
         id: _bar
         width: parent.width
@@ -19,36 +26,16 @@ PebbleCase {
             id: _file
             title: "&File"
 
-            Action {
-                text: "&Open"
-                onTriggered: _top.chosen.push("open")
-            }
-
-            PbMenuItem {
-                id: _hidden
-                text: "Hidden"
-                visible: false
-                onTriggered: _top.chosen.push("hidden")
-            }
-
-            PbMenuItem {
-                id: _disabled
-                text: "Disabled"
-                enabled: false
-                onTriggered: _top.chosen.push("disabled")
-            }
-
+            Choice { text: "&Open" }
+            Entry { id: _hidden; text: "Hidden"; visible: false }
+            Entry { id: _disabled; text: "Disabled"; enabled: false }
             PbMenuSeparator {}
 
             PbMenuItem {
                 id: _save
                 text: "Save && close"
                 autoSuggested: true
-                action: Action {
-                    text: "Save && close"
-                    shortcut: "Ctrl+S"
-                    onTriggered: _top.chosen.push("save")
-                }
+                action: Choice { text: "Save && close"; shortcut: "Ctrl+S" }
             }
 
             PbMenu {
@@ -56,10 +43,7 @@ PebbleCase {
                 title: "Recent"
                 pivot: -20
 
-                Action {
-                    text: "one.png"
-                    onTriggered: _top.chosen.push("one")
-                }
+                Choice { text: "one.png" }
             }
         }
 
@@ -67,10 +51,7 @@ PebbleCase {
             id: _edit
             title: "&Edit"
 
-            Action {
-                text: "Undo"
-                onTriggered: _top.chosen.push("undo")
-            }
+            Choice { text: "Undo" }
         }
     }
 
@@ -80,10 +61,9 @@ PebbleCase {
         Repeater {
             model: 40
 
-            PbMenuItem {
+            Entry {
                 required property int index
                 text: `Item ${index}`
-                onTriggered: _top.chosen.push(index)
             }
         }
     }
@@ -119,13 +99,13 @@ PebbleCase {
     function test_keys_data(): var {
         const D = Qt.Key_Down, U = Qt.Key_Up, R = Qt.Key_Return, L = Qt.Key_Right;
         return [
-            { tag: "first", keys: [D, R], chosen: ["open"] },
-            { tag: "Enter", keys: [D, Qt.Key_Enter], chosen: ["open"] },
-            { tag: "Space", keys: [D, Qt.Key_Space], chosen: ["open"] },
-            { tag: "hidden and disabled are passed over", keys: [D, D, R], chosen: ["save"] },
-            { tag: "back up", keys: [D, D, U, R], chosen: ["open"] },
-            { tag: "into the sub-menu", keys: [D, D, D, L, R], chosen: ["one"] },
-            { tag: "Return opens the sub-menu, too", keys: [D, D, D, R, R], chosen: ["one"] },
+            { tag: "first", keys: [D, R], chosen: ["&Open"] },
+            { tag: "Enter", keys: [D, Qt.Key_Enter], chosen: ["&Open"] },
+            { tag: "Space", keys: [D, Qt.Key_Space], chosen: ["&Open"] },
+            { tag: "hidden and disabled are passed over", keys: [D, D, R], chosen: ["Save && close"] },
+            { tag: "back up", keys: [D, D, U, R], chosen: ["&Open"] },
+            { tag: "into the sub-menu", keys: [D, D, D, L, R], chosen: ["one.png"] },
+            { tag: "Return opens the sub-menu, too", keys: [D, D, D, R, R], chosen: ["one.png"] },
             { tag: "Escape chooses nothing", keys: [D, Qt.Key_Escape], chosen: [] },
         ];
     }
@@ -148,7 +128,7 @@ PebbleCase {
         compare(chosen, []);
         show(_file);
         mouseClick(_save);
-        compare(chosen, ["save"]);
+        compare(chosen, ["Save && close"]);
     }
 
     function test_bar(): void {
@@ -157,37 +137,28 @@ PebbleCase {
         tryVerify(() => _file.opened);
         keyClick(Qt.Key_Right);
         tryVerify(() => _edit.opened);
-        keyClick(Qt.Key_Down);
-        keyClick(Qt.Key_Return);
-        compare(chosen, ["undo"]);
+        press([Qt.Key_Down, Qt.Key_Return]);
+        compare(chosen, ["Undo"]);
     }
 
     function test_long_menu_scrolls_to_the_choice(): void {
         show(_long);
         verify(_long.height <= 400);
-        for (let i = 0; i < 30; ++i)
-            keyClick(Qt.Key_Down);
+        press(Array(30).fill(Qt.Key_Down));
         const item = _long.itemAt(29);
         waitForPolish(_long.contentItem);
         const y = item.mapToItem(_long.contentItem, 0, 0).y;
         verify(y >= 0 && y + item.height <= _long.contentItem.height, `y ${y}`);
         keyClick(Qt.Key_Return);
-        compare(chosen, [29]);
+        compare(chosen, ["Item 29"]);
     }
 
-    function test_text_data(): var {
-        return [
-            { tag: "mark", text: "&File", plain: "File" },
-            { tag: "mark within", text: "Save &as", plain: "Save as" },
-            { tag: "two are one", text: "a && b", plain: "a & b" },
-            { tag: "at the end", text: "end&", plain: "end" },
-            { tag: "three", text: "&&&x", plain: "&x" },
-        ];
-    }
-
-    function test_text(row: var): void {
-        compare(_mnemonic.plain(row.text), row.plain);
-        compare(_mnemonic.plain(_mnemonic.escaped(row.text)), row.text);
+    function test_text(): void {
+        for (const [text, plain] of [["&File", "File"], ["Save &as", "Save as"], ["a && b", "a & b"], ["end&", "end"],
+                                     ["&&&x", "&x"]]) {
+            compare(_mnemonic.plain(text), plain);
+            compare(_mnemonic.plain(_mnemonic.escaped(text)), text);
+        }
     }
 
     function test_named_for_those_who_listen(): void {

@@ -19,38 +19,25 @@ TestCase {
         autoValue: Number.NEGATIVE_INFINITY
     }
 
-    function test_double_press_data(): var {
-        return [
-            { tag: "within", times: [1000, 1400], second: [false, true] },
-            { tag: "beyond", times: [1000, 1401], second: [false, false] },
-            { tag: "a late second starts a pair of its own", times: [1000, 1500, 1700], second: [false, false, true] },
-            { tag: "a third press is a first one", times: [1000, 1100, 1200, 1300], second: [false, true, false, true] },
-            { tag: "clock set back", times: [5000, 1000, 1200], second: [false, false, true] },
-        ];
+    function test_double_press(): void {
+        for (const [name, times, second] of [
+            ["within", [1000, 1400], [false, true]],
+            ["beyond", [1000, 1401], [false, false]],
+            ["a late second starts a pair of its own", [1000, 1500, 1700], [false, false, true]],
+            ["a third press is a first one", [1000, 1100, 1200, 1300], [false, true, false, true]],
+            ["clock set back", [5000, 1000, 1200], [false, false, true]],
+        ]) {
+            _presses._first = Number.NEGATIVE_INFINITY;
+            compare(times.map(t => _presses.press(t)), second, name);
+        }
     }
 
-    function test_double_press(row: var): void {
-        _presses._first = Number.NEGATIVE_INFINITY;
-        compare(row.times.map(t => _presses.press(t)), row.second);
-    }
-
-    function test_numbers_data(): var {
-        return [
-            { tag: "integer", text: "12", value: 12 },
-            { tag: "negative fraction", text: "-.5", value: -0.5 },
-            { tag: "trailing point while typing", text: "3.", value: 3 },
-            { tag: "empty", text: "", value: NaN },
-            { tag: "blank", text: " ", value: NaN },
-            { tag: "sign alone", text: "-", value: NaN },
-            { tag: "hexadecimal", text: "0x10", value: NaN },
-            { tag: "exponent", text: "1e3", value: NaN },
-            { tag: "word", text: "Infinity", value: NaN },
-            { tag: "unit behind", text: "5px", value: NaN },
-        ];
-    }
-
-    function test_numbers(row: var): void {
-        compare(_numbers.parse(row.text), row.value);
+    // A point may stand last while a number is typed.
+    function test_numbers(): void {
+        for (const [text, value] of [["12", 12], ["-.5", -0.5], ["3.", 3]])
+            compare(_numbers.parse(text), value, text);
+        for (const text of ["", " ", "-", "0x10", "1e3", "Infinity", "5px"])
+            compare(_numbers.parse(text), NaN, text);
     }
 
     // A model's 37.2 shown as "37" must not come back as 37.
@@ -73,19 +60,17 @@ TestCase {
         verify(!_numbers.isForeignPoint(","));
     }
 
-    function test_reset_target_data(): var {
-        return [
-            { tag: "Autopilot first", auto: 30, def: 5, target: 30 },
-            { tag: "Autopilot at the end of the range", auto: -25, def: 5, target: -25 },
-            { tag: "Autopilot out of range", auto: 90, def: 5, target: 5 },
-            { tag: "nothing set", auto: Number.NEGATIVE_INFINITY, def: Number.NEGATIVE_INFINITY, target: 10 },
-            { tag: "nothing in range", auto: -100, def: 100, target: 10 },
-        ];
-    }
-
-    function test_reset_target(row: var): void {
-        _slider.autoValue = row.auto;
-        _slider.defaultValue = row.def;
-        compare(_slider.resetTarget(), row.target);
+    function test_reset_target(): void {
+        for (const [name, auto, value, target] of [
+            ["Autopilot first", 30, 5, 30],
+            ["Autopilot at the end of the range", -25, 5, -25],
+            ["Autopilot out of range", 90, 5, 5],
+            ["nothing set", Number.NEGATIVE_INFINITY, Number.NEGATIVE_INFINITY, 10],
+            ["nothing in range", -100, 100, 10],
+        ]) {
+            _slider.autoValue = auto;
+            _slider.defaultValue = value;
+            compare(_slider.resetTarget(), target, name);
+        }
     }
 }

@@ -21,29 +21,17 @@ PebbleCase {
         { section: true, text: "Last" },
     ]
 
-    function test_resting_place_data(): var {
-        return [
-            { tag: "a row", index: 5, rests: 5 },
-            { tag: "first section", index: 0, rests: 4 },
-            { tag: "rule", index: 2, rests: 4 },
-            { tag: "last section", index: 6, rests: 4 },
-            { tag: "past the end", index: 7, rests: 4 },
-            { tag: "none", index: -1, rests: -1 },
-        ];
-    }
-
-    function test_resting_place(row: var): void {
+    function test_resting_place(): void {
         const box = make();
         compare(box.currentIndex, 1, "starts at the first row");
-        for (const way of ["function", "property"]) {
-            box.setIndex(4);
-            if (way === "function")
-                box.setIndex(row.index);
-            else
-                box.currentIndex = row.index;
-            compare(box.currentIndex, row.rests, way);
-            compare(box.prevIndex, row.rests);
-        }
+        for (const go of [index => box.setIndex(index), index => { box.currentIndex = index; }])
+            for (const [name, index, rests] of [["a row", 5, 5], ["first section", 0, 4], ["rule", 2, 4],
+                                                ["last section", 6, 4], ["past the end", 7, 4], ["none", -1, -1]]) {
+                box.setIndex(4);
+                go(index);
+                compare(box.currentIndex, rests, name);
+                compare(box.prevIndex, rests, name);
+            }
     }
 
     // The start, where an unknown value leads, is a section here.

@@ -6,10 +6,7 @@ PebbleCase {
     id: _top
     name: "Slider"
 
-    QtObject {
-        id: _model
-        property real strength: 40
-    }
+    property real strength: 40
 
     Flickable {
         id: _panel
@@ -21,7 +18,7 @@ PebbleCase {
             x: 20
             y: 20
             width: 212
-            value: _model.strength
+            value: _top.strength
         }
     }
 
@@ -30,8 +27,8 @@ PebbleCase {
 
     function reset(): void {
         wait(PebbleStyle.time.doublePress + 20);
-        _model.strength = 40.5;
-        _model.strength = 40;
+        strength = 40.5;
+        strength = 40;
         _slider.from = 0;
         _slider.to = 100;
         _slider.defaultValue = 10;
@@ -46,8 +43,7 @@ PebbleCase {
     }
 
     function test_default_is_the_first_value(): void {
-        const slider = createTemporaryQmlObject("import PebbleUI; PbSlider { value: 33 }", _top);
-        compare(slider.defaultValue, 33);
+        compare(createTemporaryQmlObject("import PebbleUI; PbSlider { value: 33 }", _top).defaultValue, 33);
     }
 
     function test_double_press_data(): var {
@@ -73,7 +69,7 @@ PebbleCase {
         }
         atHandle(mouseRelease);
         verify(_finished.count >= 2);
-        _model.strength = 55;
+        strength = 55;
         compare(_slider.value, 55, "the binding still holds");
     }
 
@@ -87,20 +83,14 @@ PebbleCase {
         verify(_moved.count >= 1);
     }
 
-    function test_keys_data(): var {
-        return [
-            { tag: "Right", key: Qt.Key_Right, value: 41 },
-            { tag: "Left", key: Qt.Key_Left, value: 39 },
-            { tag: "Delete", key: Qt.Key_Delete, value: 10 },
-            { tag: "Backspace", key: Qt.Key_Backspace, value: 10 },
-        ];
-    }
-
-    function test_keys(row: var): void {
+    function test_keys(): void {
         focusByKeyboard(_slider);
-        keyClick(row.key);
-        compare(_slider.value, row.value);
-        compare(_finished.count, 1);
+        for (const [key, value] of [[Qt.Key_Right, 41], [Qt.Key_Delete, 10], [Qt.Key_Left, 9], [Qt.Key_Backspace, 10]]) {
+            _finished.clear();
+            keyClick(key);
+            compare(_slider.value, value);
+            compare(_finished.count, 1);
+        }
     }
 
     // Scrolling through a panel must not change what lies under the pointer.
@@ -110,29 +100,28 @@ PebbleCase {
         compare(_slider.value, 40);
     }
 
-    function test_mark_data(): var {
-        return [
+    function test_mark(): void {
+        for (const row of [
             { tag: "at a quarter", from: 0, to: 100, auto: 25, x: 55.5, shown: true },
             { tag: "at the start", from: -25, to: 75, auto: -25, x: 5.5, shown: true },
             { tag: "at the end", from: 1, to: 100, auto: 100, x: 205.5, shown: true },
             { tag: "below the range", from: 1, to: 100, auto: -1, x: NaN, shown: false },
             { tag: "inside a range that goes below zero", from: -25, to: 75, auto: -1, x: 53.5, shown: true },
-        ];
-    }
-
-    function test_mark(row: var): void {
-        _slider.from = row.from;
-        _slider.to = row.to;
-        _slider.autoValue = row.auto;
-        const mark = findChild(_slider, "autoMark");
-        compare(mark.visible, row.shown);
-        if (!row.shown)
-            return;
-        fuzzyCompare(mark.x, row.x, 0.001);
-        compare(mark.height, 8);
-        compare(mark.width, 1);
-        tryCompare(mark, "opacity", 1);
-        _model.strength = row.auto;
-        tryCompare(mark, "opacity", 0);
+        ]) {
+            strength = 40;
+            _slider.from = row.from;
+            _slider.to = row.to;
+            _slider.autoValue = row.auto;
+            const mark = findChild(_slider, "autoMark");
+            compare(mark.visible, row.shown, row.tag);
+            if (!row.shown)
+                continue;
+            fuzzyCompare(mark.x, row.x, 0.001);
+            compare(mark.height, 8, row.tag);
+            compare(mark.width, 1, row.tag);
+            tryCompare(mark, "opacity", 1);
+            strength = row.auto;
+            tryCompare(mark, "opacity", 0);
+        }
     }
 }

@@ -15,20 +15,14 @@ PebbleCase {
                                                && !name.startsWith("_") && name !== "dualSpinner");
     }
 
-    function test_every_icon_resolves_data(): var {
-        return [
-            { tag: "PebbleStyle.icon", set: PebbleStyle.icon, least: 100 },
-            { tag: "PebbleStyle.brand", set: PebbleStyle.brand, least: 2 },
-            { tag: "BaseTheme.icon", set: _base.icon, least: 30 },
-        ];
-    }
-
-    function test_every_icon_resolves(row: var): void {
-        const names = roles(row.set);
-        verify(names.length >= row.least, `${names.length} roles`);
-        for (const name of names) {
-            _icon.iconSource = row.set[name];
-            compare(_icon.status, Image.Ready, name);
+    function test_every_icon_resolves(): void {
+        for (const [set, least] of [[PebbleStyle.icon, 100], [PebbleStyle.brand, 2], [_base.icon, 30]]) {
+            const names = roles(set);
+            verify(names.length >= least, `${names.length} roles`);
+            for (const name of names) {
+                _icon.iconSource = set[name];
+                compare(_icon.status, Image.Ready, name);
+            }
         }
     }
 
@@ -60,19 +54,16 @@ PebbleCase {
         verify(!_spinner.visible && !_spinner.playing);
     }
 
-    function test_rich_text_helpers_data(): var {
+    function test_rich_text_helpers(): void {
         const blue = PebbleStyle.color.primeBlue;
-        return [
-            { tag: "bold in the default colour", made: PebbleStyle.bold("a"), wanted: '<b><font color="#f2f2f2">a</font></b>' },
-            { tag: "link, underlined unless told", made: PebbleStyle.hyperlink("a", "b", blue), wanted: "underline" },
-            { tag: "link without a line", made: PebbleStyle.hyperlink("a", "b", blue, false), wanted: "text-decoration: none" },
-            { tag: "span of defaults", made: PebbleStyle.labelWithBackground("a"), wanted: "padding: 2px 6px" },
-            { tag: "older link", made: _base.wrapLink("a", "b"), wanted: "color: #a3c8ff" },
-            { tag: "outside text", made: PebbleStyle.bold(PebbleStyle.escaped('<a href="x">&')), wanted: "&lt;a href=&quot;x&quot;&gt;&amp;" },
-        ];
-    }
-
-    function test_rich_text_helpers(row: var): void {
-        verify(row.made.includes(row.wanted), row.made);
+        for (const [made, wanted] of [
+            [PebbleStyle.bold("a"), '<b><font color="#f2f2f2">a</font></b>'],
+            [PebbleStyle.hyperlink("a", "b", blue), "underline"],
+            [PebbleStyle.hyperlink("a", "b", blue, false), "text-decoration: none"],
+            [PebbleStyle.labelWithBackground("a"), "padding: 2px 6px"],
+            [_base.wrapLink("a", "b"), "color: #a3c8ff"],
+            [PebbleStyle.bold(PebbleStyle.escaped('<a href="x">&')), "&lt;a href=&quot;x&quot;&gt;&amp;"],
+        ])
+            verify(made.includes(wanted), made);
     }
 }

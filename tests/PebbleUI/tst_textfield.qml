@@ -18,9 +18,9 @@ PebbleCase {
         }
     }
 
-    function test_leaving_data(): var {
+    function test_leaving(): void {
         const [integer, text] = [PbTextField.Type.Integer, PbTextField.Type.Text];
-        return [
+        for (const row of [
             { tag: "Return", type: integer, typed: "7", key: Qt.Key_Return, leaves: true, after: "7", accepts: 1 },
             { tag: "Enter", type: integer, typed: "7", key: Qt.Key_Enter, leaves: true, after: "7", accepts: 1 },
             { tag: "Escape keeps a good text", type: integer, typed: "7", key: Qt.Key_Escape, leaves: true, after: "7", accepts: 0 },
@@ -31,43 +31,34 @@ PebbleCase {
             { tag: "refused by the check", type: integer, typed: "13", key: Qt.Key_Return, leaves: false, after: "13", accepts: 0 },
             { tag: "a bad number may stay", type: integer, typed: "-", key: Qt.Key_Escape, leaves: true, after: "-", accepts: 0, keep: true },
             { tag: "text is never restored", type: text, typed: "13", key: Qt.Key_Escape, leaves: true, after: "4013", accepts: 0 },
-        ];
+        ]) {
+            make({ y: 60 }); // somewhere for Tab to go
+            const field = make({ type: row.type, text: "40", validateInput: t => !t.includes("13"), resetOnError: !row.keep });
+            focusByKeyboard(field);
+            press([...row.typed, row.key]);
+            compare(field.activeFocus, !row.leaves, row.tag);
+            compare(field.text, row.after, row.tag);
+            compare(count, row.accepts, row.tag);
+        }
     }
 
-    function test_leaving(row: var): void {
-        make({ y: 60 }); // somewhere for Tab to go
-        const field = make({ type: row.type, text: "40", validateInput: t => !t.includes("13"), resetOnError: !row.keep });
-        focusByKeyboard(field);
-        press([...row.typed, row.key]);
-        compare(field.activeFocus, !row.leaves);
-        compare(field.text, row.after);
-        compare(count, row.accepts);
-    }
-
-    function test_stepping_data(): var {
-        return [
+    function test_stepping(): void {
+        for (const row of [
             { tag: "integer", type: PbTextField.Type.Integer, decimals: 0, text: "9", up: "10" },
             { tag: "tenths without drift", type: PbTextField.Type.Real, decimals: 1, text: "0.2", up: "0.3" },
             { tag: "thousandths", type: PbTextField.Type.Real, decimals: 3, text: "1.999", up: "2.000" },
             { tag: "below zero", type: PbTextField.Type.Integer, decimals: 0, text: "-1", up: "0" },
-        ];
-    }
-
-    function test_stepping(row: var): void {
-        const field = make({ type: row.type, decimals: row.decimals, text: row.text });
-        field.forceActiveFocus();
-        keyClick(Qt.Key_Up);
-        compare(field.text, row.up);
-        keyClick(Qt.Key_Down);
-        compare(field.text, row.text);
-    }
-
-    function test_stepping_from_no_number_says_so(): void {
-        const field = make({ type: PbTextField.Type.Integer, text: "" });
-        field.forceActiveFocus();
-        ignoreWarning("Inc/Dec was requested, but current value is NaN");
-        keyClick(Qt.Key_Up);
-        compare(field.text, "");
+            { tag: "from no number", type: PbTextField.Type.Integer, decimals: 0, text: "", up: "", warns: true },
+        ]) {
+            const field = make({ type: row.type, decimals: row.decimals, text: row.text });
+            field.forceActiveFocus();
+            for (const [key, text] of [[Qt.Key_Up, row.up], [Qt.Key_Down, row.text]]) {
+                if (row.warns)
+                    ignoreWarning("Inc/Dec was requested, but current value is NaN");
+                keyClick(key);
+                compare(field.text, text, row.tag);
+            }
+        }
     }
 
     function test_stepping_can_be_replaced(): void {
@@ -78,47 +69,40 @@ PebbleCase {
         compare(field.text, "16");
     }
 
-    function test_selection_on_focus_data(): var {
-        return [
-            { tag: "number by Tab", type: PbTextField.Type.Integer, mouse: false, selected: "40" },
-            { tag: "number by click", type: PbTextField.Type.Integer, mouse: true, selected: "40" },
-            { tag: "text by click", type: PbTextField.Type.Text, mouse: true, selected: "" },
-        ];
+    function test_selection_on_focus(): void {
+        for (const [name, type, take, selected] of [
+            ["number by Tab", PbTextField.Type.Integer, focusByKeyboard, "40"],
+            ["number by click", PbTextField.Type.Integer, mouseClick, "40"],
+            ["text by click", PbTextField.Type.Text, mouseClick, ""],
+        ]) {
+            const field = make({ type: type, text: "40" });
+            take(field);
+            verify(field.activeFocus);
+            compare(field.selectedText, selected, name);
+        }
     }
 
-    function test_selection_on_focus(row: var): void {
-        const field = make({ type: row.type, text: "40" });
-        if (row.mouse)
-            mouseClick(field);
-        else
-            focusByKeyboard(field);
-        verify(field.activeFocus);
-        compare(field.selectedText, row.selected);
-    }
-
-    function test_resting_looks_as_in_use_data(): var {
-        return [
+    // Nothing may jump when the keyboard comes. Frame and cursor, which may change, are left away.
+    function test_resting_looks_as_in_use(): void {
+        for (const row of [
             { tag: "text", properties: { text: "portrait, Ångström" } },
             { tag: "number", properties: { text: "-12.50", type: PbTextField.Type.Real } },
             { tag: "tall", properties: { text: "tall", height: 61 } },
             { tag: "secret", properties: { text: "secret", echoMode: TextInput.Password } },
             { tag: "placeholder", properties: { placeholderText: "a name" } },
-        ];
-    }
-
-    // Nothing may jump when the keyboard comes. Frame and cursor, which may change, are left away.
-    function test_resting_looks_as_in_use(row: var): void {
-        const field = make(Object.assign({ selectAllOnFocus: false, width: 200 }, row.properties));
-        field.background.visible = false;
-        const resting = grabImage(field);
-        field.forceActiveFocus();
-        field.cursorVisible = false;
-        verify(grabImage(field).equals(resting));
-        field.focus = false;
-        verify(grabImage(field).equals(resting));
-        field.text = "";
-        field.placeholderText = "";
-        verify(!grabImage(field).equals(resting), "there was something to see");
+        ]) {
+            const field = make(Object.assign({ selectAllOnFocus: false, width: 200 }, row.properties));
+            field.background.visible = false;
+            const resting = grabImage(field);
+            field.forceActiveFocus();
+            field.cursorVisible = false;
+            verify(grabImage(field).equals(resting));
+            field.focus = false;
+            verify(grabImage(field).equals(resting));
+            field.text = "";
+            field.placeholderText = "";
+            verify(!grabImage(field).equals(resting), "there was something to see");
+        }
     }
 
     function test_long_text_ends_in_dots_until_it_is_edited(): void {
@@ -132,19 +116,14 @@ PebbleCase {
         verify(!resting.visible, "a selection is seen");
     }
 
-    function test_comma_replaces_what_is_selected(): void {
+    function test_comma_replaces_what_is_selected_and_the_wheel_nothing(): void {
         const field = make({ type: PbTextField.Type.Real, text: "12" });
         field.forceActiveFocus();
+        mouseWheel(field, 10, 10, 0, 120);
+        compare(field.text, "12");
         field.select(1, 2);
         press([",", "5"]);
         compare(field.text, "1.5");
-    }
-
-    function test_wheel_changes_nothing(): void {
-        const field = make({ type: PbTextField.Type.Integer, text: "40" });
-        field.forceActiveFocus();
-        mouseWheel(field, 10, 10, 0, 120);
-        compare(field.text, "40");
     }
 
     function test_labeled_field(): void {

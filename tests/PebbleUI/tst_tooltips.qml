@@ -42,35 +42,36 @@ PebbleCase {
         _button.tooltip.text = "Cuts the picture";
     }
 
-    function test_placement_data(): var {
+    function showAt(x: real, y: real, options: var): Item {
+        _target.x = x;
+        _target.y = y;
+        _plane.showTip(Object.assign({ target: _target, text: "here" }, options));
+        return _plane.currentTip;
+    }
+
+    function test_placement(): void {
         const at = Qt.rect(200, 150, 40, 20);
-        return [
-            { tag: "above", side: PbTooltipPlane.Alignment.Top, target: at, x: 200, y: 80 },
-            { tag: "above, hugging", side: PbTooltipPlane.Alignment.Top, hug: true, target: at, x: 170, y: 80 },
-            { tag: "right", side: PbTooltipPlane.Alignment.Right, target: at, x: 250, y: 150 },
-            { tag: "below", side: PbTooltipPlane.Alignment.Bottom, target: at, x: 200, y: 180 },
-            { tag: "below, hugging", side: PbTooltipPlane.Alignment.Bottom, hug: true, target: at, x: 170, y: 180 },
-            { tag: "left", side: PbTooltipPlane.Alignment.Left, hug: true, target: at, x: 90, y: 150 },
-        ];
+        for (const [name, side, hug, to] of [
+            ["above", PbTooltipPlane.Alignment.Top, false, Qt.point(200, 80)],
+            ["above, hugging", PbTooltipPlane.Alignment.Top, true, Qt.point(170, 80)],
+            ["right", PbTooltipPlane.Alignment.Right, false, Qt.point(250, 150)],
+            ["below", PbTooltipPlane.Alignment.Bottom, false, Qt.point(200, 180)],
+            ["below, hugging", PbTooltipPlane.Alignment.Bottom, true, Qt.point(170, 180)],
+            ["left", PbTooltipPlane.Alignment.Left, true, Qt.point(90, 150)],
+        ])
+            compare(_placement.place(at, Qt.size(100, 60), side, hug), to, name);
     }
 
-    function test_placement(row: var): void {
-        compare(_placement.place(row.target, Qt.size(100, 60), row.side, row.hug ?? false), Qt.point(row.x, row.y));
-    }
-
-    function test_edges_data(): var {
+    function test_edges(): void {
         const size = Qt.size(100, 60);
-        return [
-            { tag: "left", from: Qt.point(-50, 70), tip: size, x: 10, y: 70 },
-            { tag: "right", from: Qt.point(550, 70), tip: size, x: 490, y: 70 },
-            { tag: "top", from: Qt.point(70, 3), tip: size, x: 70, y: 10 },
-            { tag: "bottom", from: Qt.point(70, 399), tip: size, x: 70, y: 330 },
-            { tag: "larger than the plane", from: Qt.point(70, 70), tip: Qt.size(900, 900), x: 10, y: 10 },
-        ];
-    }
-
-    function test_edges(row: var): void {
-        compare(_placement.restrict(row.from, row.tip, Qt.size(600, 400)), Qt.point(row.x, row.y));
+        for (const [name, from, tip, to] of [
+            ["left", Qt.point(-50, 70), size, Qt.point(10, 70)],
+            ["right", Qt.point(550, 70), size, Qt.point(490, 70)],
+            ["top", Qt.point(70, 3), size, Qt.point(70, 10)],
+            ["bottom", Qt.point(70, 399), size, Qt.point(70, 330)],
+            ["larger than the plane", Qt.point(70, 70), Qt.size(900, 900), Qt.point(10, 10)],
+        ])
+            compare(_placement.restrict(from, tip, Qt.size(600, 400)), to, name);
     }
 
     // The target in each corner, offsets pushing outwards, then back.
@@ -85,34 +86,25 @@ PebbleCase {
     }
 
     function test_tip_stays_in_the_plane(row: var): void {
-        _target.x = row.x;
-        _target.y = row.y;
-        _plane.showTip({ target: _target, text: "long ".repeat(40), alignment: row.side, offsetX: row.offset,
-                         offsetY: row.offset });
-        const tip = _plane.currentTip;
+        const offsets = { offsetX: row.offset, offsetY: row.offset };
+        const tip = showAt(row.x, row.y, Object.assign({ text: "long ".repeat(40), alignment: row.side }, offsets));
         compare(tip.width, 320);
         verify(tip.x >= 10 && tip.x + tip.width <= 590, `x ${tip.x}`);
         verify(tip.y >= 10 && tip.y + tip.height <= 390, `y ${tip.y}`);
     }
 
     function test_near_the_right_edge_with_a_negative_offset(): void {
-        _target.x = 540;
-        _target.y = 200;
-        _plane.showTip({ target: _target, text: "here", offsetX: -5 });
-        compare(_plane.currentTip.x, 600 - 320 - 10);
+        compare(showAt(540, 200, { offsetX: -5 }).x, 600 - 320 - 10);
         _plane.restrictTipToBounds = false;
-        _plane.showTip({ target: _target, text: "here", offsetX: -5 });
-        compare(_plane.currentTip.x, 535);
+        compare(showAt(540, 200, { offsetX: -5 }).x, 535);
     }
 
     function test_other_items_stand_for_the_target(): void {
-        _target.x = 100;
-        _target.y = 100;
         const below = PbTooltipPlane.Alignment.Bottom;
-        _plane.showTip({ target: _target, targetForX: _elsewhere, text: "x", alignment: below, offsetX: 20 });
-        compare([_plane.currentTip.x, _plane.currentTip.y], [27, 130]);
-        _plane.showTip({ target: _target, targetForY: _elsewhere, text: "x", alignment: below });
-        compare([_plane.currentTip.x, _plane.currentTip.y], [100, 69]);
+        const first = showAt(100, 100, { targetForX: _elsewhere, alignment: below, offsetX: 20 });
+        compare([first.x, first.y], [27, 130]);
+        const second = showAt(100, 100, { targetForY: _elsewhere, alignment: below });
+        compare([second.x, second.y], [100, 69]);
     }
 
     function test_one_tip_at_a_time_and_stale_ids(): void {
@@ -127,13 +119,11 @@ PebbleCase {
         _plane.hideTip(second);
     }
 
-    function test_no_target_data(): var {
-        return [{ tag: "none", opts: {} }, { tag: "null", opts: { target: null } }, { tag: "no options", opts: undefined }];
-    }
-
-    function test_no_target(row: var): void {
-        ignoreWarning("Target is required to show tip");
-        compare(_plane.showTip(row.opts), -1);
+    function test_no_target(): void {
+        for (const options of [{}, { target: null }, undefined]) {
+            ignoreWarning("Target is required to show tip");
+            compare(_plane.showTip(options), -1);
+        }
     }
 
     function test_a_tip_goes_with_its_target(): void {
@@ -144,11 +134,10 @@ PebbleCase {
     }
 
     function test_hugging_is_never_wider_than_usual(): void {
-        _plane.showTip({ target: _target, text: "short", hugContents: true });
-        verify(_plane.currentTip.width < 100);
-        _plane.showTip({ target: _target, text: "long ".repeat(100), hugContents: true });
-        compare(_plane.currentTip.width, 320);
-        verify(_plane.currentTip.height > 100);
+        verify(showAt(0, 0, { text: "short", hugContents: true }).width < 100);
+        const tip = showAt(0, 0, { text: "long ".repeat(100), hugContents: true });
+        compare(tip.width, 320);
+        verify(tip.height > 100);
     }
 
     function test_hover(): void {

@@ -19,11 +19,7 @@ PebbleCase {
 
     Component {
         id: _titleItem
-
-        PbButton {
-            compact: true
-            text: "Rename"
-        }
+        PbButton { compact: true; text: "Rename" }
     }
 
     Window {
@@ -31,14 +27,7 @@ PebbleCase {
         width: 300
         height: 200
 
-        PbWinWindowButtons {
-            id: _buttons
-            window: _window
-        }
-    }
-
-    function reset(): void {
-        _header.titleItem = null;
+        PbWinWindowButtons { id: _buttons; window: _window }
     }
 
     function test_header(): void {
@@ -46,6 +35,7 @@ PebbleCase {
         compare(findChild(_header, "majorVersion").text, "3");
         _header.titleItem = _titleItem;
         compare(_header.titleItemLoader.item.text, "Rename");
+        _header.titleItem = null;
     }
 
     function test_long_title_leaves_room_for_the_buttons(): void {

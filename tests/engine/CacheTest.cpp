@@ -1,8 +1,6 @@
 #include "Harness.h"
 #include "NetworkFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <mutex>
 #include <set>
 
@@ -27,43 +25,39 @@ std::set<QString> stagesRun(Engine &engine, const ProcRequest &request) {
     return stages;
 }
 
-void setStrength(ProcRequest &request, const QString &filter, const QString &key, double value) {
-    QVariantMap map = request.params[filter].toMap();
-    QVariantMap params = map[u"params"_s].toMap();
-    params[key] = value;
-    map[u"params"_s] = params;
-    request.params[filter] = map;
-}
-
 } // namespace
 
 TEST(Cache, OnlyWhatChangedRuns) {
     const std::set<QString> none, both{u"Denoise"_s, u"Sharpen"_s}, sharpen{u"Sharpen"_s};
     Engine &engine = shippedEngine();
-    ProcRequest request = Engine::request(Pictures::noisy(*Pictures::scene(80, 60), 9));
-    Engine::add(request, u"Denoise"_s, u"Denoise"_s, u"Low Light Beta"_s, {{u"param1_normalv2"_s, 0.3}});
-    Engine::add(request, u"Sharpen"_s, u"Sharpen"_s, u"Sharpen Strong"_s, {{u"param2"_s, 0.3}});
-    request.full = false;
-    EXPECT_EQ(stagesRun(engine, request), both);
-    EXPECT_EQ(stagesRun(engine, request), none) << "nothing changed";
-    setStrength(request, u"Sharpen"_s, u"param2"_s, 0.5);
-    EXPECT_EQ(stagesRun(engine, request), sharpen) << "the last slider moved";
-    setStrength(request, u"Sharpen"_s, u"param2"_s, 0.3);
-    EXPECT_EQ(stagesRun(engine, request), none) << "and back";
-    request.region = QRect(20, 20, 40, 30);
-    EXPECT_EQ(stagesRun(engine, request), none) << "a smaller view";
-    setStrength(request, u"Denoise"_s, u"param1_normalv2"_s, 0.6);
-    EXPECT_EQ(stagesRun(engine, request), both) << "the first slider moved";
+    const auto image = Pictures::noisy(*Pictures::scene(80, 60), 9);
+    QRect region(0, 0, 80, 60);
+    bool full = false;
+    const auto ask = [&](double denoise, double sharpen) {
+        ProcRequest request = Engine::request(image);
+        Engine::add(request, u"Denoise"_s, u"Denoise"_s, u"Low Light Beta"_s,
+                    {{u"param1_normalv2"_s, denoise}});
+        Engine::add(request, u"Sharpen"_s, u"Sharpen"_s, u"Sharpen Strong"_s, {{u"param2"_s, sharpen}});
+        request.region = region;
+        request.full = full;
+        return request;
+    };
+    EXPECT_EQ(stagesRun(engine, ask(0.3, 0.3)), both);
+    EXPECT_EQ(stagesRun(engine, ask(0.3, 0.3)), none) << "nothing changed";
+    EXPECT_EQ(stagesRun(engine, ask(0.3, 0.5)), sharpen) << "the last slider moved";
+    EXPECT_EQ(stagesRun(engine, ask(0.3, 0.3)), none) << "and back";
+    region = QRect(20, 20, 40, 30);
+    EXPECT_EQ(stagesRun(engine, ask(0.3, 0.3)), none) << "a smaller view";
+    EXPECT_EQ(stagesRun(engine, ask(0.6, 0.3)), both) << "the first slider moved";
 
-    const auto cached = engine.run(request).image;
-    engine.backend->clearCache(request.input.uid);
-    EXPECT_EQ(stagesRun(engine, request), both) << "forgotten";
-    EXPECT_EQ(Pictures::mismatch(*engine.run(request).image, *cached, 0, 0), "");
+    const auto cached = engine.run(ask(0.6, 0.3)).image;
+    engine.backend->clearCache(ask(0.6, 0.3).input.uid);
+    EXPECT_EQ(stagesRun(engine, ask(0.6, 0.3)), both) << "forgotten";
+    EXPECT_EQ(Pictures::mismatch(*engine.run(ask(0.6, 0.3)).image, *cached, 0, 0), "");
 
-    request.full = true;
-    setStrength(request, u"Sharpen"_s, u"param2"_s, 0.2);
-    EXPECT_EQ(stagesRun(engine, request), sharpen) << "an export may use what a preview left";
-    EXPECT_EQ(stagesRun(engine, request), sharpen) << "but leaves nothing itself";
+    full = true;
+    EXPECT_EQ(stagesRun(engine, ask(0.6, 0.2)), sharpen) << "an export may use what a preview left";
+    EXPECT_EQ(stagesRun(engine, ask(0.6, 0.2)), sharpen) << "but leaves nothing itself";
 }
 
 TEST(Cache, BudgetAndIdentity) {

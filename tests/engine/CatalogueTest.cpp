@@ -1,24 +1,14 @@
 #include "Harness.h"
+#include "NetworkFolder.h"
 #include "engine/catalogue/ModelCatalogue.h"
 
-#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void write(const QString &path, const QByteArray &contents) {
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(contents);
-}
 
 QByteArray definition(const QByteArray &model, const QByteArray &parameters = "{}") {
     return R"({"category": "Denoise", "model": ")" + model +
@@ -64,14 +54,11 @@ TEST(Catalogue, ShippedModels) {
     };
     Engine engine;
     for (const Row &row : rows) {
-        const QVariantMap entry = engine.catalogue[QLatin1String(row.category)]
-                                      .toMap()[QLatin1String(row.model)]
-                                      .toMap()[u"gui"_s]
-                                      .toMap()[u"parameters"_s]
-                                      .toMap()[QLatin1String(row.parameter)]
-                                      .toMap();
+        const QVariantMap ranges =
+            rangesOf(engine.catalogue, QLatin1String(row.category), QLatin1String(row.model));
         const QVariantMap expected{{u"default"_s, row.initial}, {u"min"_s, row.least}, {u"max"_s, row.most}};
-        EXPECT_EQ(entry, expected) << row.category << '/' << row.model << '/' << row.parameter;
+        EXPECT_EQ(ranges[QLatin1String(row.parameter)].toMap(), expected)
+            << row.category << '/' << row.model << '/' << row.parameter;
     }
     for (const char *missing : {"Face Recovery", "Text Recovery", "Inpaint"})
         EXPECT_FALSE(engine.catalogue.contains(QLatin1String(missing))) << "what does nothing is not offered";
@@ -110,16 +97,16 @@ TEST(Catalogue, ReachOfTheShippedModels) {
 
 /// A model is added by a definition file alone: it is listed, runs, and is advised within its own range.
 TEST(Catalogue, ANewModelIsAFile) {
-    QTemporaryDir dir;
-    ASSERT_TRUE(QFile::copy(QStringLiteral(ORVANE_MODELS "/denoise/denoise-normal.onnx"),
-                            dir.filePath(u"normal.onnx"_s)));
-    write(dir.filePath(u"denoise/velvet.json"_s), R"({
+    const NetworkFolder dir;
+    dir.write(u"velvet.json"_s, R"({
         "category": "Denoise", "model": "Velvet", "kind": "network", "operation": "denoise",
         "parameters": { "velvet": { "role": "strength", "default": 0.2, "min": 0.1, "max": 0.3 },
                         "sheen": { "role": "detail", "default": 0.6, "min": 0.5, "max": 1 },
                         "nap": { "default": 0.4 } },
         "networks": [ { "file": "../normal.onnx", "halo": 20,
                         "conditions": [ { "strength": 0.5 }, {}, {}, {} ] } ] })");
+    ASSERT_TRUE(QFile::copy(QStringLiteral(ORVANE_MODELS "/denoise/denoise-normal.onnx"),
+                            dir.file(u"../normal.onnx"_s)));
     Engine engine({}, dir.path());
     EXPECT_EQ(engine.catalogue[u"Denoise"_s].toMap().keys(), QStringList{u"Velvet"_s});
 
@@ -179,12 +166,11 @@ TEST(Catalogue, DamagedFilesAreSkipped) {
         {"outside", network(R"({"file": "../../n.onnx", "halo": 8, "conditions": [{}]})")},
         {"absolute", network(R"({"file": "/dev/zero", "halo": 8, "conditions": [{}]})")},
     };
-    QTemporaryDir dir;
-    write(dir.filePath(u"denoise/a-good.json"_s),
-          definition("Good", R"({"p": {"default": 0.5, "role": "strength"}})"));
+    const NetworkFolder dir;
+    dir.write(u"a-good.json"_s, definition("Good", R"({"p": {"default": 0.5, "role": "strength"}})"));
     for (const Row &row : rows)
-        write(dir.filePath(u"denoise/%1.json"_s.arg(QLatin1String(row.name))), row.contents);
-    write(dir.filePath(u"stray.json"_s), "not in a category's folder");
+        dir.write(u"%1.json"_s.arg(QLatin1String(row.name)), row.contents);
+    dir.write(u"../stray.json"_s, "not in a category's folder");
 
     const auto engine = makeEngineBackend();
     const LogCapture log;
@@ -194,5 +180,5 @@ TEST(Catalogue, DamagedFilesAreSkipped) {
     for (const Row &row : rows)
         EXPECT_EQ(log.count(u"/%1.json"_s.arg(QLatin1String(row.name))), 1) << row.name;
     EXPECT_EQ(log.lines().size(), qsizetype(std::size(rows)));
-    EXPECT_TRUE(engine->catalogue(dir.filePath(u"nowhere"_s)).isEmpty());
+    EXPECT_TRUE(engine->catalogue(dir.file(u"nowhere"_s)).isEmpty());
 }

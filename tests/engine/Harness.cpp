@@ -42,14 +42,21 @@ QStringList logLines;
 std::shared_ptr<ImageData> Pictures::make(int width, int height, int channels, SampleType type,
                                           const std::function<Pixel(int, int)> &pixel) {
     auto image = std::make_shared<ImageData>(width, height, channels, type);
-    for (int y = 0; y < height; ++y) {
+    for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
             const Pixel p = pixel(x, y);
             for (int c = 0; c < channels; ++c)
                 setSample(*image, x, y, c, p[std::size_t(c)]);
         }
-    }
     return image;
+}
+
+std::shared_ptr<ImageData> Pictures::grey(int width, int height,
+                                          const std::function<double(int, int)> &value) {
+    return make(width, height, 3, SampleType::UInt8, [&](int x, int y) -> Pixel {
+        const double v = value(x, y);
+        return {v, v, v, 1};
+    });
 }
 
 std::shared_ptr<ImageData> Pictures::scene(int width, int height, int channels, SampleType type) {
@@ -90,14 +97,13 @@ std::shared_ptr<ImageData> Pictures::blurred(const ImageData &image, double sigm
         weights.push_back(std::exp(-d * d / (2 * sigma * sigma)));
     return changed(image, [&](double, int x, int y, int c) {
         double sum = 0, total = 0;
-        for (int j = -radius; j <= radius; ++j) {
+        for (int j = -radius; j <= radius; ++j)
             for (int i = -radius; i <= radius; ++i) {
                 const double w = weights[std::size_t(i + radius)] * weights[std::size_t(j + radius)];
                 sum += w * sample(image, std::clamp(x + i, 0, image.width() - 1),
                                   std::clamp(y + j, 0, image.height() - 1), c);
                 total += w;
             }
-        }
         return sum / total;
     });
 }
@@ -184,11 +190,11 @@ ProcRequest Engine::request(const ImageRef &image) {
 }
 
 void Engine::add(ProcRequest &request, const QString &name, const QString &category, const QString &model,
-                 const QVariantMap &params) {
+                 const QVariantMap &params, bool enabled) {
     request.filterOrder.append(name);
     request.params.insert(name, QVariantMap{{u"category"_s, category},
                                             {u"model"_s, model},
-                                            {u"enabled"_s, true},
+                                            {u"enabled"_s, enabled},
                                             {u"params"_s, params}});
 }
 

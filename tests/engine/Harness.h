@@ -4,6 +4,8 @@
 
 #include <QImage>
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -28,6 +30,9 @@ std::shared_ptr<ImageData> make(int width, int height, int channels, SampleType 
 /// Photo-like: soft shading, edges at all angles, fine texture, some colour; alpha a soft disk.
 std::shared_ptr<ImageData> scene(int width, int height, int channels = 3,
                                  SampleType type = SampleType::UInt8);
+
+/// The same value, 0 to 1, in R, G and B of an 8-bit picture.
+std::shared_ptr<ImageData> grey(int width, int height, const std::function<double(int, int)> &value);
 
 /// Each sample changed by `change(value, x, y, channel)`, values 0 to 1; alpha is left alone.
 std::shared_ptr<ImageData> changed(const ImageData &image,
@@ -60,7 +65,7 @@ struct Engine {
     /// A request over the whole picture that exports; each picture gets a uid of its own.
     static ProcRequest request(const ImageRef &image);
     static void add(ProcRequest &request, const QString &name, const QString &category, const QString &model,
-                    const QVariantMap &params);
+                    const QVariantMap &params, bool enabled = true);
 
     std::unique_ptr<ProcessingBackend> backend;
     QVariantMap catalogue;

@@ -3,8 +3,6 @@
 
 #include <QFile>
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,5 @@
 #include "Harness.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <map>

@@ -1,7 +1,5 @@
 #include "Harness.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <stdexcept>
 
@@ -86,16 +84,13 @@ TEST(Quality, DamageIsUndone) {
 /// "Original detail" brings texture back and leaves flat areas clean.
 TEST(Quality, OriginalDetailReturnsTexture) {
     Engine &engine = shippedEngine();
-    const auto clean = Pictures::make(192, 96, 3, SampleType::UInt8, [](int x, int y) -> Pictures::Pixel {
-        const double v = x < 96 ? 0.5 : 0.5 + 0.12 * ((x * 7919 + y * 104729 + x * y) % 17 - 8) / 8.0;
-        return {v, v, v, 1};
+    const auto clean = Pictures::grey(192, 96, [](int x, int y) {
+        return x < 96 ? 0.5 : 0.5 + 0.12 * ((x * 7919 + y * 104729 + x * y) % 17 - 8) / 8.0;
     });
     const auto image = Pictures::noisy(*clean, 8);
     const auto run = [&](double detail) {
-        return engine
-            .run(image, u"Denoise"_s, u"Low Light Beta"_s,
-                 {{u"param1_normalv2"_s, 0.6}, {u"recover_detail"_s, detail}})
-            .image;
+        const QVariantMap params{{u"param1_normalv2"_s, 0.6}, {u"recover_detail"_s, detail}};
+        return engine.run(image, u"Denoise"_s, u"Low Light Beta"_s, params).image;
     };
     const auto spread = [](const ImageData &picture, int from) {
         double sum = 0;
@@ -113,12 +108,8 @@ TEST(Quality, OriginalDetailReturnsTexture) {
 /// No halos: beside a hard edge nothing leaves the range of the picture by more than a little.
 TEST(Quality, EdgesGetNoHalos) {
     Engine &engine = shippedEngine();
-    const auto edge = Pictures::blurred(*Pictures::make(64, 32, 3, SampleType::UInt8,
-                                                        [](int x, int) -> Pictures::Pixel {
-                                                            const double v = x < 32 ? 0.3 : 0.7;
-                                                            return {v, v, v, 1};
-                                                        }),
-                                        1);
+    const auto sharp = Pictures::grey(64, 32, [](int x, int) { return x < 32 ? 0.3 : 0.7; });
+    const auto edge = Pictures::blurred(*sharp, 1);
     for (const ModelCase &model : everyModel(engine.catalogue)) {
         if (model.category != u"Sharpen"_s && model.category != u"Enhance"_s)
             continue;
@@ -151,13 +142,12 @@ TEST(Quality, HotPixelsAreCorrectedOnRequest) {
     const auto clean = run(scene, false, true), before = run(hot, false, true), after = run(hot, true, true);
     // Spots in texture or beside an edge may be part of the picture and stay.
     double heightBefore = 0, heightAfter = 0;
-    for (int y = 11; y < 160; y += 20) {
+    for (int y = 11; y < 160; y += 20)
         for (int x = 7; x < 192; x += 24) {
             const double wanted = Pictures::sample(*clean, x, y, 0);
             heightBefore += Pictures::sample(*before, x, y, 0) - wanted;
             heightAfter += Pictures::sample(*after, x, y, 0) - wanted;
         }
-    }
     EXPECT_LT(heightAfter, 0.6 * heightBefore);
     EXPECT_LT(Pictures::difference(*after, *clean), 0.7 * Pictures::difference(*before, *clean));
     EXPECT_LT(Pictures::difference(*run(scene, true, true), *clean), 0.25) << "fine texture mostly stays";

@@ -1,19 +1,6 @@
 #include "Harness.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QVariantMap record(const QString &category, const QString &model, bool enabled = true) {
-    return {{u"category"_s, category},
-            {u"model"_s, model},
-            {u"enabled"_s, enabled},
-            {u"params"_s, QVariantMap{}}};
-}
-
-} // namespace
 
 TEST(Requests, FailuresSayWhat) {
     struct Row {
@@ -27,17 +14,9 @@ TEST(Requests, FailuresSayWhat) {
          u"no picture"_s},
         {"empty region", [](ProcRequest &r) { r.region = QRect(); }, u"outside"_s},
         {"region beside the picture", [](ProcRequest &r) { r.region = QRect(500, 0, 10, 10); }, u"outside"_s},
-        {"unknown model",
-         [](ProcRequest &r) {
-             r.filterOrder = {u"Sharpen"_s};
-             r.params[u"Sharpen"_s] = record(u"Sharpen"_s, u"Razor"_s);
-         },
+        {"unknown model", [](ProcRequest &r) { Engine::add(r, u"Sharpen"_s, u"Sharpen"_s, u"Razor"_s, {}); },
          u"\"Razor\""_s},
-        {"unknown category",
-         [](ProcRequest &r) {
-             r.filterOrder = {u"Sparkle3"_s};
-             r.params[u"Sparkle3"_s] = record({}, {});
-         },
+        {"unknown category", [](ProcRequest &r) { Engine::add(r, u"Sparkle3"_s, {}, {}, {}); },
          u"\"Sparkle\""_s},
     };
     Engine engine;
@@ -56,16 +35,17 @@ TEST(Requests, WhatIsSkipped) {
     struct Row {
         const char *name;
         QString filter;
-        QVariantMap controls;
+        QString category, model; ///< of the filter's record, where there is one
         int logged;
+        bool enabled = true;
     };
     const Row rows[] = {
-        {"nothing asked", {}, {}, 0},
-        {"disabled, even with an unknown model", u"Denoise"_s, record(u"Denoise"_s, u"Nonsense"_s, false), 0},
-        {"no record", u"Sharpen2"_s, {}, 0},
-        {"faces", u"Face Recovery"_s, record(u"Face Recovery"_s, u"Any"_s), 1},
-        {"text", u"Text Recovery"_s, record(u"Text Recovery"_s, u"Text Refine"_s), 1},
-        {"removal", u"Inpaint2"_s, record(u"Inpaint"_s, {}), 1},
+        {"nothing asked", {}, {}, {}, 0},
+        {"disabled, even with an unknown model", u"Denoise"_s, u"Denoise"_s, u"Nonsense"_s, 0, false},
+        {"no record", u"Sharpen2"_s, {}, {}, 0},
+        {"faces", u"Face Recovery"_s, u"Face Recovery"_s, u"Any"_s, 1},
+        {"text", u"Text Recovery"_s, u"Text Recovery"_s, u"Text Refine"_s, 1},
+        {"removal", u"Inpaint2"_s, u"Inpaint"_s, {}, 1},
     };
     Engine engine;
     auto image = Pictures::scene(60, 40, 4, SampleType::UInt16);
@@ -74,8 +54,9 @@ TEST(Requests, WhatIsSkipped) {
         SCOPED_TRACE(row.name);
         ProcRequest request = Engine::request(image);
         request.region = QRect(-20, 25, 50, 100);
+        if (!row.category.isEmpty())
+            Engine::add(request, row.filter, row.category, row.model, {}, row.enabled);
         request.filterOrder = row.filter.isEmpty() ? QStringList() : QStringList{row.filter, row.filter};
-        request.params[row.filter] = row.controls;
         const LogCapture log;
         const ProcResult result = engine.run(request);
         ASSERT_TRUE(result.image) << result.error.toStdString();

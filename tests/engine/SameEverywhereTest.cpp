@@ -1,7 +1,5 @@
 #include "Harness.h"
 
-#include <gtest/gtest.h>
-
 #include <utility>
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,5 @@
 #include "Harness.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 TEST(Size, WhatTheSettingsAskFor) {
@@ -49,17 +47,12 @@ TEST(Size, WhatTheSettingsAskFor) {
 /// Fine stripes turn to grey, not to coarse stripes, when a picture is reduced.
 TEST(Size, ReductionsDoNotAlias) {
     Engine engine;
-    const auto stripes = Pictures::make(240, 60, 3, SampleType::UInt8, [](int x, int) -> Pictures::Pixel {
-        const double v = x % 2 ? 0.9 : 0.1;
-        return {v, v, v, 1};
-    });
+    const auto stripes = Pictures::grey(240, 60, [](int x, int) { return x % 2 ? 0.9 : 0.1; });
+    const QVariantMap params{{u"scale"_s, 0.3}, {u"param1"_s, 0}, {u"param2"_s, 0}, {u"param3"_s, 0}};
     for (const ModelCase &model : everyModel(engine.catalogue)) {
         if (model.category != u"Enhance"_s)
             continue;
-        const auto out = engine
-                             .run(stripes, model.category, model.model,
-                                  {{u"scale"_s, 0.3}, {u"param1"_s, 0}, {u"param2"_s, 0}, {u"param3"_s, 0}})
-                             .image;
+        const auto out = engine.run(stripes, model.category, model.model, params).image;
         for (int x = 3; x < out->width() - 3; ++x)
             EXPECT_NEAR(Pictures::sample(*out, x, 9, 0), 0.5, 0.03) << model.label() << ' ' << x;
     }

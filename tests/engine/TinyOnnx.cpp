@@ -67,18 +67,6 @@ QByteArray encode(const Attribute &attribute) {
     return message.number(20, 7).data();
 }
 
-QByteArray encode(const Node &node) {
-    Message message;
-    for (const std::string &input : node.inputs)
-        message.text(1, input);
-    for (const std::string &output : node.outputs)
-        message.text(2, output);
-    message.text(4, node.operation);
-    for (const Attribute &attribute : node.attributes)
-        message.bytes(5, encode(attribute));
-    return message.data();
-}
-
 QByteArray encode(const Value &value) {
     Message shape;
     for (std::size_t i = 0; i < value.dims.size(); ++i) {
@@ -89,6 +77,27 @@ QByteArray encode(const Value &value) {
     }
     const QByteArray tensor = Message().number(1, 1).bytes(2, shape.data()).data();
     return Message().text(1, value.name).bytes(2, Message().bytes(1, tensor).data()).data();
+}
+
+QByteArray encode(const std::string &text) {
+    return QByteArray::fromStdString(text);
+}
+
+QByteArray encode(const Node &node);
+
+template <typename T>
+void each(Message &message, int field, const std::vector<T> &list) {
+    for (const T &one : list)
+        message.bytes(field, encode(one));
+}
+
+QByteArray encode(const Node &node) {
+    Message message;
+    each(message, 1, node.inputs);
+    each(message, 2, node.outputs);
+    message.text(4, node.operation);
+    each(message, 5, node.attributes);
+    return message.data();
 }
 
 /// Adds layers to a graph, each on the one before.
@@ -129,15 +138,11 @@ private:
 
 QByteArray TinyOnnx::Graph::bytes() const {
     Message graph;
-    for (const Node &node : nodes)
-        graph.bytes(1, encode(node));
+    each(graph, 1, nodes);
     graph.text(2, "test");
-    for (const Tensor &tensor : constants)
-        graph.bytes(5, encode(tensor));
-    for (const Value &input : inputs)
-        graph.bytes(11, encode(input));
-    for (const Value &output : outputs)
-        graph.bytes(12, encode(output));
+    each(graph, 5, constants);
+    each(graph, 11, inputs);
+    each(graph, 12, outputs);
     const QByteArray operators = Message().number(2, 17).data();
     return Message().number(1, 8).bytes(7, graph.data()).bytes(8, operators).data();
 }

@@ -1,10 +1,7 @@
 #include "ControllerTest.h"
 
-#include <QSignalSpy>
 #include <QTemporaryFile>
 #include <QUrl>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

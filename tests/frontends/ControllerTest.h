@@ -4,8 +4,6 @@
 #include "frontends/TEngineController.h"
 #include "tests/fakes/FakeEngine.h"
 
-#include <gtest/gtest.h>
-
 /// The engine's front end over a back end with scripted answers.
 class ControllerTest : public testing::Test {
 protected:

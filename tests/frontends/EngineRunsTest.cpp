@@ -2,9 +2,6 @@
 #include "system/DiskSpaceWatch.h"
 
 #include <QSettings>
-#include <QSignalSpy>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +26,10 @@ protected:
     }
     bool idle() {
         return eventually([this] { return !controller->processing(); });
+    }
+    bool ran() {
+        start();
+        return idle();
     }
 
     QStringList answers;
@@ -96,8 +97,7 @@ TEST_F(EngineRuns, CancellingNothingIsSilent) {
     controller->cancelProc();
     settle();
     EXPECT_TRUE(answers.isEmpty());
-    start();
-    ASSERT_TRUE(idle());
+    ASSERT_TRUE(ran());
     controller->cancelProc();
     settle();
     EXPECT_EQ(answers, QStringList(u"result 1"_s));
@@ -122,8 +122,7 @@ TEST_F(EngineRuns, FailureStandsUntilARunSucceeds) {
     engine->onProcess = [](const ProcRequest &, const RunControl &) {
         return ProcResult{.error = u"No memory."_s};
     };
-    start();
-    ASSERT_TRUE(idle());
+    ASSERT_TRUE(ran());
     EXPECT_EQ(controller->error(), u"No memory."_s);
     engine->onProcess = nullptr;
     start();
@@ -166,8 +165,7 @@ TEST_F(EngineRuns, ProgressIsThinnedAndArrivesOnTheMainThread) {
         return ProcResult{.image = std::const_pointer_cast<ImageData>(request.input.image)};
     };
     QSignalSpy status(controller.get(), &TEngineController::statusChanged);
-    start();
-    ASSERT_TRUE(idle());
+    ASSERT_TRUE(ran());
     EXPECT_LT(seen.size(), 500u);
     EXPECT_EQ(seen.back(), 1);
     EXPECT_EQ(status.size(), 2) << "set by the first report, cleared at the end";
@@ -182,8 +180,7 @@ TEST_F(EngineRuns, DestructionStopsEverythingAndStaysSilent) {
     controller->setModelDirectory(u"models"_s);
     controller->hashInstaller(u"https://example.org/setup"_s);
     controller->cacheSamEncoder(imageMap());
-    ASSERT_TRUE(
-        eventually([this] { return engine->requests().size() == 1 && engine->analyses().size() == 1; }));
+    ASSERT_TRUE(eventually([this] { return engine->requests().size() + engine->analyses().size() == 2; }));
     QSignalSpy finished(controller.get(), &TEngineController::autoPilotFinished);
     controller.reset();
     settle();

@@ -3,10 +3,6 @@
 
 #include "Support.h"
 
-#include <QSignalSpy>
-
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -24,6 +20,10 @@ protected:
     }
     bool idle() {
         return eventually([this] { return !reader.loading(); });
+    }
+    bool loaded(const QString &path) {
+        reader.setFilepath(path);
+        return idle();
     }
 
     std::shared_ptr<FakeFiles> files = std::make_shared<FakeFiles>();
@@ -48,15 +48,13 @@ TEST_F(Reader, GivesTheImageMap) {
 }
 
 TEST_F(Reader, SamePathLoadsAgainOnlyWhenForced) {
-    reader.setFilepath(u"/a.jpg"_s);
-    ASSERT_TRUE(idle());
+    ASSERT_TRUE(loaded(u"/a.jpg"_s));
     const QString uid = reader.imagedata().value(u"uid"_s).toString();
     reader.setFilepath(u"/a.jpg"_s);
     EXPECT_FALSE(reader.loading());
     reader.setFilepath(QString());
     EXPECT_TRUE(reader.imagedata().isEmpty());
-    reader.setFilepath(u"/a.jpg"_s);
-    ASSERT_TRUE(idle());
+    ASSERT_TRUE(loaded(u"/a.jpg"_s));
     EXPECT_NE(reader.imagedata().value(u"uid"_s).toString(), uid);
     reader.reload();
     ASSERT_TRUE(idle());
@@ -89,18 +87,15 @@ TEST_F(Reader, LoadThatWasReadyWhenAbandonedNeverReports) {
     reader.setFilepath(u"/missing.jpg"_s);
     while (files->reads().empty())
         std::this_thread::yield();
-    reader.setFilepath(u"/a.jpg"_s);
-    ASSERT_TRUE(idle());
+    ASSERT_TRUE(loaded(u"/a.jpg"_s));
     EXPECT_EQ(events, QStringList(u"image /a.jpg"_s));
 }
 
 TEST_F(Reader, ErrorIsToldAndTakenBack) {
-    reader.setFilepath(u"/a.jpg"_s);
-    ASSERT_TRUE(idle());
+    ASSERT_TRUE(loaded(u"/a.jpg"_s));
     events.clear();
     for (int again = 0; again < 2; ++again) {
-        reader.setFilepath(u"/missing.jpg"_s);
-        ASSERT_TRUE(idle());
+        ASSERT_TRUE(loaded(u"/missing.jpg"_s));
         reader.setFilepath(QString());
     }
     EXPECT_EQ(events, QStringList({u"error Cannot read /missing.jpg"_s, u"error "_s, u"image "_s,
@@ -111,8 +106,7 @@ TEST_F(Reader, BrokenBackEndAnswerIsAnError) {
     files->add(u"/empty.jpg"_s, ReadResult{});
     files->add(u"/null.jpg"_s, ReadResult{.image = std::make_shared<ImageData>()});
     for (const QString &path : {u"/empty.jpg"_s, u"/null.jpg"_s}) {
-        reader.setFilepath(path);
-        ASSERT_TRUE(idle());
+        ASSERT_TRUE(loaded(path));
         EXPECT_EQ(reader.error(), u"The file %1 could not be read."_s.arg(path));
     }
 }

@@ -8,8 +8,6 @@
 
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 #include <numbers>
 
 using namespace Qt::StringLiterals;
@@ -42,32 +40,22 @@ TEST(ImageUtils, ExportExtension) {
 TEST(ImageUtils, PathsOnDisk) {
     const QTemporaryDir folder;
     const auto at = [&](const QString &name) { return folder.filePath(name); };
-    const auto touch = [&](const QString &name) {
-        EXPECT_TRUE(QFile(at(name)).open(QFile::WriteOnly)) << name.toStdString();
-    };
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"v1.2/sub"_s));
     for (const QString &name : {u"a.jpg"_s, u"a-1.jpg"_s, u"v1.2/noext"_s, u".hidden"_s})
-        touch(name);
+        EXPECT_TRUE(QFile(at(name)).open(QFile::WriteOnly)) << name.toStdString();
     ASSERT_TRUE(QFile::link(at(u"a.jpg"_s), at(u"link.jpg"_s)));
     ASSERT_TRUE(QFile::link(at(u"nowhere"_s), at(u"dangling.jpg"_s)));
 
-    struct Free {
-        QString path, expected;
-    };
-    for (const Free &row :
-         {Free{u"new.jpg"_s, u"new.jpg"_s}, Free{u"a.jpg"_s, u"a-2.jpg"_s},
-          Free{u"v1.2/noext"_s, u"v1.2/noext-1"_s}, Free{u"dangling.jpg"_s, u"dangling-1.jpg"_s}})
-        EXPECT_EQ(TImageUtils::adjustPathWhenOverwriting(at(row.path)), at(row.expected));
-
-    struct Same {
-        QString a, b;
-        bool same;
-    };
-    for (const Same &row : {Same{u"a.jpg"_s, u"v1.2/../a.jpg"_s, true}, Same{u"a.jpg"_s, u"link.jpg"_s, true},
-                            Same{u"new.jpg"_s, u"v1.2/sub/../../new.jpg"_s, true},
-                            Same{u"a.jpg"_s, u"a-1.jpg"_s, false}, Same{u"new.jpg"_s, u"other.jpg"_s, false}})
-        EXPECT_EQ(TImageUtils::arePathsEqual(at(row.a), at(row.b)), row.same)
-            << row.a.toStdString() << " " << row.b.toStdString();
+    for (const auto &[path, expected] :
+         {std::pair(u"new.jpg"_s, u"new.jpg"_s), std::pair(u"a.jpg"_s, u"a-2.jpg"_s),
+          std::pair(u"v1.2/noext"_s, u"v1.2/noext-1"_s), std::pair(u"dangling.jpg"_s, u"dangling-1.jpg"_s)})
+        EXPECT_EQ(TImageUtils::adjustPathWhenOverwriting(at(path)), at(expected));
+    for (const auto &[a, b, same] :
+         {std::tuple(u"a.jpg"_s, u"v1.2/../a.jpg"_s, true), std::tuple(u"a.jpg"_s, u"link.jpg"_s, true),
+          std::tuple(u"new.jpg"_s, u"v1.2/sub/../../new.jpg"_s, true),
+          std::tuple(u"a.jpg"_s, u"a-1.jpg"_s, false), std::tuple(u"new.jpg"_s, u"other.jpg"_s, false)})
+        EXPECT_EQ(TImageUtils::arePathsEqual(at(a), at(b)), same)
+            << a.toStdString() << " " << b.toStdString();
     EXPECT_FALSE(TImageUtils::arePathsEqual(QString(), at(u"a.jpg"_s)));
 }
 
@@ -83,30 +71,21 @@ TEST(ImageUtils, PartsOfPaths) {
 }
 
 TEST(ImageUtils, Rectangles) {
-    struct Cover {
-        const char *name;
-        QRectF outer, inner;
-        bool covers;
-    };
-    for (const Cover &row : {Cover{"itself", {0, 0, 10, 10}, {0, 0, 10, 10}, true},
-                             Cover{"inside", {0, 0, 10, 10}, {1, 1, 2, 2}, true},
-                             Cover{"sticks out", {0, 0, 10, 10}, {9, 0, 2, 2}, false},
-                             Cover{"nothing covers", {}, {0, 0, 1, 1}, false}})
-        EXPECT_EQ(TImageUtils::doesRectCoverRect(row.outer, row.inner), row.covers) << row.name;
+    const QRectF square(0, 0, 10, 10);
+    EXPECT_TRUE(TImageUtils::doesRectCoverRect(square, square));
+    EXPECT_TRUE(TImageUtils::doesRectCoverRect(square, {1, 1, 2, 2}));
+    EXPECT_FALSE(TImageUtils::doesRectCoverRect(square, {9, 0, 2, 2})) << "sticks out";
+    EXPECT_FALSE(TImageUtils::doesRectCoverRect({}, {0, 0, 1, 1})) << "nothing covers";
 
-    struct Bounds {
-        const char *name;
-        double degrees;
-        QRectF expected;
-    };
     const double side = (40 + 20) / std::numbers::sqrt2;
-    for (const Bounds &row : {Bounds{"unturned", 0, {10, 10, 40, 20}}, Bounds{"quarter", 90, {20, 0, 20, 40}},
-                              Bounds{"eighth", -45, {30 - side / 2, 20 - side / 2, side, side}}}) {
-        const QRectF bounds = TImageUtils::getBoundingRect({10, 10, 40, 20}, row.degrees);
-        EXPECT_NEAR(bounds.x(), row.expected.x(), 1e-9) << row.name;
-        EXPECT_NEAR(bounds.y(), row.expected.y(), 1e-9) << row.name;
-        EXPECT_NEAR(bounds.width(), row.expected.width(), 1e-9) << row.name;
-        EXPECT_NEAR(bounds.height(), row.expected.height(), 1e-9) << row.name;
+    for (const auto &[degrees, expected] :
+         {std::pair(0, QRectF(10, 10, 40, 20)), std::pair(90, QRectF(20, 0, 20, 40)),
+          std::pair(-45, QRectF(30 - side / 2, 20 - side / 2, side, side))}) {
+        const QRectF bounds = TImageUtils::getBoundingRect({10, 10, 40, 20}, degrees);
+        EXPECT_NEAR(bounds.x(), expected.x(), 1e-9) << degrees;
+        EXPECT_NEAR(bounds.y(), expected.y(), 1e-9) << degrees;
+        EXPECT_NEAR(bounds.width(), expected.width(), 1e-9) << degrees;
+        EXPECT_NEAR(bounds.height(), expected.height(), 1e-9) << degrees;
     }
 }
 
@@ -151,17 +130,12 @@ TEST(ImageUtils, CameraMetadata) {
 }
 
 TEST(MathUtils, BrushRadius) {
-    struct Row {
-        const char *name;
-        double size;
-        QSizeF image;
-        double radius;
-    };
-    for (const Row &row :
-         {Row{"smallest", 0.5, {3200, 100}, 0.5}, Row{"just below the middle", 50 - 1e-9, {100, 3200}, 100.5},
-          Row{"middle", 50, {3200, 100}, 100}, Row{"largest", 100, {3200, 100}, 400},
-          Row{"no image", 50, {}, 0}})
-        EXPECT_NEAR(TMathUtils::mapBrushSize(row.size, row.image), row.radius, 1e-6) << row.name;
+    const QSizeF image(3200, 100);
+    EXPECT_NEAR(TMathUtils::mapBrushSize(0.5, image), 0.5, 1e-6);
+    EXPECT_NEAR(TMathUtils::mapBrushSize(50 - 1e-9, image.transposed()), 100.5, 1e-6);
+    EXPECT_NEAR(TMathUtils::mapBrushSize(50, image), 100, 1e-6);
+    EXPECT_NEAR(TMathUtils::mapBrushSize(100, image), 400, 1e-6);
+    EXPECT_NEAR(TMathUtils::mapBrushSize(50, {}), 0, 1e-6) << "no image";
 }
 
 } // namespace

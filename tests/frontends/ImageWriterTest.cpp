@@ -3,10 +3,6 @@
 
 #include "Support.h"
 
-#include <QSignalSpy>
-
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -24,7 +20,10 @@ protected:
             writer.get(), &TImageWriter::errorSaving, writer.get(),
             [this](const QString &path, const QString &why) { answers << path + u": "_s + why; });
     }
-    void save(const QString &path) { writer->saveImage(picture(), u"/in.jpg"_s, path, imageMap(), {}); }
+    void save(const QStringList &paths) {
+        for (const QString &path : paths)
+            writer->saveImage(picture(), u"/in.jpg"_s, path, imageMap(), {});
+    }
     bool answered(int count) {
         return eventually([=, this] { return answers.size() == count; });
     }
@@ -34,19 +33,21 @@ protected:
     QStringList answers;
 };
 
-TEST_F(Writer, EachSaveIsAnsweredOnce) {
+TEST_F(Writer, EachSaveIsAnsweredOnceAndProgressNamesTheOutput) {
+    QSignalSpy progress(writer.get(), &TImageWriter::writeProgress);
     files->failWriting(u"/full"_s, u"The disk is full."_s);
     const QVariantMap options{{u"Compression"_s, u"jpeg:95"_s}};
     writer->saveImage(picture(), u"/in.jpg"_s, u"/out"_s, imageMap(), options);
-    save(u"/full"_s);
+    save({u"/full"_s});
     writer->saveImage(nullptr, u"/in.jpg"_s, u"/none"_s, {}, {});
-    save(QString());
-    save(u"/out"_s);
+    save({QString(), u"/out"_s});
     ASSERT_TRUE(answered(5));
     settle();
     EXPECT_EQ(answers, QStringList({u"/out"_s, u"/full: The disk is full."_s,
                                     u"/none: There is no picture to write."_s,
                                     u": There is no path to write the picture to."_s, u"/out"_s}));
+    ASSERT_EQ(progress.size(), 3);
+    EXPECT_EQ(progress.at(0), QVariantList({u"/out"_s, 0.5}));
     const WriteRequest request = files->written().front();
     EXPECT_EQ(request.inputPath, u"/in.jpg"_s);
     EXPECT_EQ(request.options, options);
@@ -70,7 +71,7 @@ TEST_F(Writer, QueueIsBoundByCountAndBytes) {
         writer->setQueueLimits(row.images, row.bytes);
         QSignalSpy changed(writer.get(), &TImageWriter::canWriteChanged);
         for (int i = 0; i < 3; ++i) {
-            save(QString::number(i));
+            save({QString::number(i)});
             EXPECT_EQ(writer->canWrite(), row.canWrite.at(i)) << i;
         }
         files->writeHold.open();
@@ -82,8 +83,7 @@ TEST_F(Writer, QueueIsBoundByCountAndBytes) {
 
 TEST_F(Writer, CancelledWritesReportAnError) {
     files->writeHold.close();
-    for (const QString &path : {u"/a"_s, u"/b"_s, u"/a"_s})
-        save(path);
+    save({u"/a"_s, u"/b"_s, u"/a"_s});
     writer->cancelExport(u"/a"_s);
     writer->cancelExport(u"/unknown"_s);
     ASSERT_TRUE(answered(1));
@@ -95,8 +95,7 @@ TEST_F(Writer, CancelledWritesReportAnError) {
 
 TEST_F(Writer, DestructionFinishesWhatWasNotCancelled) {
     files->writeHold.close();
-    for (const QString &path : {u"/a"_s, u"/b"_s, u"/c"_s})
-        save(path);
+    save({u"/a"_s, u"/b"_s, u"/c"_s});
     writer->cancelExport(u"/b"_s);
     std::jthread opener([this] {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
@@ -109,20 +108,11 @@ TEST_F(Writer, DestructionFinishesWhatWasNotCancelled) {
     EXPECT_TRUE(answers.isEmpty());
 }
 
-TEST_F(Writer, ProgressNamesTheOutput) {
-    QSignalSpy progress(writer.get(), &TImageWriter::writeProgress);
-    save(u"/out"_s);
-    ASSERT_TRUE(answered(1));
-    ASSERT_EQ(progress.size(), 1);
-    EXPECT_EQ(progress.at(0), QVariantList({u"/out"_s, 0.5}));
-}
-
 TEST_F(Writer, EstimatesAreAnsweredEachAndSharedWhenEqual) {
     QSignalSpy estimated(writer.get(), &TImageWriter::fileSizeEstimated);
     const QVariantMap image = imageMap();
-    writer->estimateFileSize(image, u"png"_s, {{u"level"_s, 2}});
-    writer->estimateFileSize(image, u"png"_s, {{u"level"_s, 2}});
-    writer->estimateFileSize(image, u"png"_s, {{u"level"_s, 9}});
+    for (const int level : {2, 2, 9})
+        writer->estimateFileSize(image, u"png"_s, {{u"level"_s, level}});
     ASSERT_TRUE(eventually([&] { return estimated.size() == 3; }));
     writer->estimateFileSize(image, u"png"_s, {{u"level"_s, 2}});
     ASSERT_TRUE(eventually([&] { return estimated.size() == 4; }));
@@ -141,7 +131,7 @@ TEST_F(Writer, FailedEstimateReportsUnderTheInputsPathAndIsTriedAgain) {
     ASSERT_TRUE(answered(1));
     writer->estimateFileSizeRequest(imageMap());
     ASSERT_TRUE(answered(2));
-    EXPECT_EQ(answers, QStringList({u"/pictures/a.jpg: No encoder."_s, u"/pictures/a.jpg: No encoder."_s}));
+    EXPECT_EQ(answers, QStringList(2, u"/pictures/a.jpg: No encoder."_s));
 }
 
 TEST_F(Writer, NegativeWithoutCameraIsTold) {

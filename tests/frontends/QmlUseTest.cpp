@@ -8,9 +8,6 @@
 #include "Support.h"
 
 #include <QJSEngine>
-#include <QSignalSpy>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

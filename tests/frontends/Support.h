@@ -2,8 +2,11 @@
 
 #include "contracts/ImageData.h"
 
+#include <QSignalSpy>
 #include <QTest>
 #include <QVariantMap>
+
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <thread>

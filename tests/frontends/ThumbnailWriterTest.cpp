@@ -5,9 +5,6 @@
 #include "Support.h"
 
 #include <QFile>
-#include <QSignalSpy>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +31,12 @@ protected:
                              written << index;
                          });
     }
+    /// The first one is being made, and waits.
+    bool begun() {
+        files->readHold.close();
+        writer->startGenerating();
+        return eventually([this] { return files->thumbnails().size() == 1; });
+    }
 
     std::shared_ptr<FakeFiles> files = std::make_shared<FakeFiles>();
     std::unique_ptr<TThumbnailWriter> writer = std::make_unique<TThumbnailWriter>(files);
@@ -56,9 +59,7 @@ TEST_F(Thumbnails, VisibleImagesCurrentFirstAndBadOnesOnce) {
 }
 
 TEST_F(Thumbnails, NewPlanDropsWhatHasNotBegun) {
-    files->readHold.close();
-    writer->startGenerating();
-    ASSERT_TRUE(eventually([this] { return files->thumbnails().size() == 1; }));
+    ASSERT_TRUE(begun());
     writer->setStartIndex(5);
     writer->startGenerating();
     files->readHold.open();
@@ -68,9 +69,7 @@ TEST_F(Thumbnails, NewPlanDropsWhatHasNotBegun) {
 }
 
 TEST_F(Thumbnails, DestructionMidWriteIsSilent) {
-    files->readHold.close();
-    writer->startGenerating();
-    ASSERT_TRUE(eventually([this] { return files->thumbnails().size() == 1; }));
+    ASSERT_TRUE(begun());
     writer.reset();
     settle();
     EXPECT_TRUE(written.isEmpty());

@@ -2,6 +2,8 @@
 
 #include "engine/analysis/Analyse.h"
 
+#include <gtest/gtest.h>
+
 /// Made-up measurements and what Autopilot answers to them.
 namespace AdviceCase {
 
@@ -47,9 +49,10 @@ struct Case {
     }
 };
 
-inline Case with(double noise, double blur) {
+inline Case with(double noise, double blur, BlurKind kind = BlurKind::Soft) {
     Case c;
     c.statistics = measured(noise, blur);
+    c.statistics.blurKind = kind;
     return c;
 }
 

@@ -16,53 +16,39 @@ Picture blurred(const Picture &picture, double sigma) {
 
 Picture defocused(const Picture &picture, double radius) {
     const int reach = int(std::ceil(radius));
-    Picture result = flat(picture[0].width, picture[0].height, {});
-    for (std::size_t c = 0; c < 3; ++c) {
+    return painted(picture[0].width, picture[0].height, [&](int x, int y, std::size_t c) {
         const Plane &source = picture[c];
+        float sum = 0;
         double weights = 0;
         for (int j = -reach; j <= reach; ++j) {
+            const float *from = source.row(std::clamp(y + j, 0, source.height - 1));
             for (int i = -reach; i <= reach; ++i) {
                 const auto weight = float(std::clamp(radius + 0.5 - std::hypot(i, j), 0.0, 1.0));
-                if (weight <= 0)
-                    continue;
                 weights += double(weight);
-                for (int y = 0; y < source.height; ++y) {
-                    const float *from = source.row(std::clamp(y + j, 0, source.height - 1));
-                    float *to = result[c].row(y);
-                    for (int x = 0; x < source.width; ++x)
-                        to[x] += weight * from[std::clamp(x + i, 0, source.width - 1)];
-                }
+                sum += weight * from[std::clamp(x + i, 0, source.width - 1)];
             }
         }
-        for (float &value : result[c].values)
-            value /= float(weights);
-    }
-    return result;
+        return sum / float(weights);
+    });
 }
 
 Picture smeared(const Picture &picture, int length, double angle) {
-    Picture result = picture;
-    for (std::size_t c = 0; c < 3; ++c) {
+    return painted(picture[0].width, picture[0].height, [&](int x, int y, std::size_t c) {
         const Plane &source = picture[c];
-        for (int y = 0; y < source.height; ++y) {
-            for (int x = 0; x < source.width; ++x) {
-                float sum = 0;
-                for (int i = 0; i < length; ++i) {
-                    const double step = i - (length - 1) / 2.0;
-                    const double fx = std::clamp(x + step * std::cos(angle), 0.0, source.width - 1.001);
-                    const double fy = std::clamp(y - step * std::sin(angle), 0.0, source.height - 1.001);
-                    const int left = int(fx);
-                    const int top = int(fy);
-                    const auto wx = float(fx - left);
-                    const auto wy = float(fy - top);
-                    sum += (1 - wy) * ((1 - wx) * source.at(left, top) + wx * source.at(left + 1, top)) +
-                           wy * ((1 - wx) * source.at(left, top + 1) + wx * source.at(left + 1, top + 1));
-                }
-                result[c].at(x, y) = sum / float(length);
-            }
+        float sum = 0;
+        for (int i = 0; i < length; ++i) {
+            const double step = i - (length - 1) / 2.0;
+            const double fx = std::clamp(x + step * std::cos(angle), 0.0, source.width - 1.001);
+            const double fy = std::clamp(y - step * std::sin(angle), 0.0, source.height - 1.001);
+            const int left = int(fx);
+            const int top = int(fy);
+            const auto wx = float(fx - left);
+            const auto wy = float(fy - top);
+            sum += (1 - wy) * ((1 - wx) * source.at(left, top) + wx * source.at(left + 1, top)) +
+                   wy * ((1 - wx) * source.at(left, top + 1) + wx * source.at(left + 1, top + 1));
         }
-    }
-    return result;
+        return sum / float(length);
+    });
 }
 
 } // namespace Scenes

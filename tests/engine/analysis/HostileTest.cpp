@@ -1,8 +1,6 @@
 #include "AdviceCase.h"
 #include "Scenes.h"
 
-#include <gtest/gtest.h>
-
 #include <QJsonDocument>
 
 #include <atomic>

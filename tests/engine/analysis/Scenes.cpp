@@ -30,15 +30,9 @@ void fill(ImageData &target, const Picture &picture, float top) {
 
 Picture fromImage(const QImage &source) {
     const QImage rgb = source.convertToFormat(QImage::Format_RGB888);
-    Picture picture = flat(rgb.width(), rgb.height(), {});
-    for (int y = 0; y < rgb.height(); ++y) {
-        const uchar *row = rgb.constScanLine(y);
-        for (int x = 0; x < rgb.width(); ++x) {
-            for (std::size_t c = 0; c < 3; ++c)
-                picture[c].at(x, y) = float(row[3 * x + int(c)]) / 255;
-        }
-    }
-    return picture;
+    return painted(rgb.width(), rgb.height(), [&](int x, int y, std::size_t c) {
+        return float(rgb.constScanLine(y)[3 * x + int(c)]) / 255;
+    });
 }
 
 QImage toImage(const Picture &picture) {
@@ -63,17 +57,22 @@ Plane normalPlane(int width, int height, std::mt19937 &random) {
 
 } // namespace
 
-Picture flat(int width, int height, const std::array<float, 3> &colour) {
+Picture painted(int width, int height, const std::function<float(int, int, std::size_t)> &value) {
     Picture picture;
     for (std::size_t c = 0; c < 3; ++c) {
         picture[c] = Plane(width, height);
-        std::fill(picture[c].values.begin(), picture[c].values.end(), colour[c]);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                picture[c].at(x, y) = value(x, y, c);
     }
     return picture;
 }
 
+Picture flat(int width, int height, const std::array<float, 3> &colour) {
+    return painted(width, height, [&](int, int, std::size_t c) { return colour[c]; });
+}
+
 Picture still(int width, int height) {
-    Picture picture = flat(width, height, {});
     // Drawn at four times the size and averaged, so that edges are as sharp as a good lens gives.
     constexpr int Fine = 4;
     const auto value = [width, height](double x, double y, std::size_t c) {
@@ -92,19 +91,13 @@ Picture still(int width, int height) {
             return 0.5 + 0.12 * std::sin(x * 0.9) * std::sin(y * 0.7) + 0.06 * std::sin(x * 0.31 + y * 0.17);
         return slope;
     };
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            for (std::size_t c = 0; c < 3; ++c) {
-                double sum = 0;
-                for (int j = 0; j < Fine; ++j) {
-                    for (int i = 0; i < Fine; ++i)
-                        sum += value(x + (i + 0.5) / Fine, y + (j + 0.5) / Fine, c);
-                }
-                picture[c].at(x, y) = float(sum / (Fine * Fine));
-            }
-        }
-    }
-    return picture;
+    return painted(width, height, [&](int x, int y, std::size_t c) {
+        double sum = 0;
+        for (int j = 0; j < Fine; ++j)
+            for (int i = 0; i < Fine; ++i)
+                sum += value(x + (i + 0.5) / Fine, y + (j + 0.5) / Fine, c);
+        return float(sum / (Fine * Fine));
+    });
 }
 
 Picture leaves(int width, int height) {
@@ -130,14 +123,13 @@ Picture leaves(int width, int height) {
             }
         }
     }
-    Picture picture = flat(width, height, {});
-    for (std::size_t c = 0; c < 3; ++c) {
-        for (int y = 0; y < height * Fine; ++y) {
-            for (int x = 0; x < width * Fine; ++x)
-                picture[c].at(x / Fine, y / Fine) += large[c].at(x, y) / (Fine * Fine);
-        }
-    }
-    return picture;
+    return painted(width, height, [&](int x, int y, std::size_t c) {
+        float sum = 0;
+        for (int j = 0; j < Fine; ++j)
+            for (int i = 0; i < Fine; ++i)
+                sum += large[c].at(x * Fine + i, y * Fine + j) / (Fine * Fine);
+        return sum;
+    });
 }
 
 Picture noisy(const Picture &picture, double sigma) {
@@ -175,12 +167,8 @@ Picture blotched(const Picture &picture, double sigma, double width) {
 }
 
 Picture tinted(const Picture &picture, const std::array<float, 3> &gains) {
-    Picture result = picture;
-    for (std::size_t c = 0; c < 3; ++c) {
-        for (float &value : result[c].values)
-            value *= gains[c];
-    }
-    return result;
+    return painted(picture[0].width, picture[0].height,
+                   [&](int x, int y, std::size_t c) { return picture[c].at(x, y) * gains[c]; });
 }
 
 Picture compressed(const Picture &picture, int quality) {
@@ -198,6 +186,14 @@ std::shared_ptr<ImageData> image(const Picture &picture, SampleType type, int ch
     else
         fill<std::uint16_t>(*result, picture, 65535);
     return result;
+}
+
+ImageStatistics measured(const Picture &picture) {
+    return measureImage(*image(picture), {});
+}
+
+double channelNoise(const ImageStatistics &statistics) {
+    return 255.0 * double(statistics.noise[0] + statistics.noise[1] + statistics.noise[2]) / 3;
 }
 
 QStringList photographs() {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "contracts/ImageData.h"
+#include "engine/analysis/ImageStatistics.h"
 #include "engine/analysis/Planes.h"
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 /// Pictures to measure, made here or read from desktop photographs, and ways to spoil them.
@@ -16,6 +18,7 @@ using Analysis::Plane;
 /// Three channels of values from 0 to 1.
 using Picture = std::array<Plane, 3>;
 
+Picture painted(int width, int height, const std::function<float(int x, int y, std::size_t channel)> &value);
 Picture flat(int width, int height, const std::array<float, 3> &colour);
 /// Slopes, discs and bars with sharp edges, a checked and a grainless textured corner, in colour.
 Picture still(int width, int height);
@@ -39,6 +42,10 @@ Picture compressed(const Picture &picture, int quality);
 
 std::shared_ptr<ImageData> image(const Picture &picture, SampleType type = SampleType::UInt8,
                                  int channels = 3);
+
+ImageStatistics measured(const Picture &picture);
+/// The mean of the three channels, on the 8-bit scale.
+double channelNoise(const ImageStatistics &statistics);
 
 /// The photographs of the package mate-backgrounds.
 QStringList photographs();

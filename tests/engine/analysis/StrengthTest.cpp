@@ -1,8 +1,6 @@
 #include "AdviceCase.h"
 #include "engine/analysis/Thresholds.h"
 
-#include <gtest/gtest.h>
-
 using namespace AdviceCase;
 
 TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
@@ -27,8 +25,7 @@ TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
     EXPECT_NEAR(both.number("Sharpen", "param1"), 0.01, 1e-9);
     both.preferences().denoiseLevels = {};
     EXPECT_NEAR(both.number("Sharpen", "param1"), 1, 1e-9);
-    Case smeared = with(0.5, 0.8);
-    smeared.statistics.blurKind = BlurKind::Motion;
+    Case smeared = with(0.5, 0.8, BlurKind::Motion);
     smeared.statistics.motionLength = 6;
     EXPECT_TRUE(smeared.enabled("Sharpen"));
     EXPECT_NEAR(smeared.number("Sharpen", "param2"), 6.0 / 9, 0.01);
@@ -36,15 +33,13 @@ TEST(Advice, StrengthsFollowTheMeasurementAndThePreference) {
     // The model would make something else of a smear that is longer than any it knows.
     smeared.statistics.motionLength = 15;
     EXPECT_LT(smeared.number("Sharpen", "param2"), 5.0 / 9);
-    Case defocused = with(0.5, 0.8);
-    defocused.statistics.blurKind = BlurKind::Defocus;
+    Case defocused = with(0.5, 0.8, BlurKind::Defocus);
     defocused.statistics.defocusRadius = 5;
     EXPECT_NEAR(defocused.number("Sharpen", "param2"), 5.0 / 8, 0.03);
     EXPECT_TRUE(defocused.entry("Sharpen").value(words("isLens")).toBool());
     // Too much is worse than too little: less is taken back where the kind of blur is open.
-    Case open = with(0.5, 2.8);
-    open.statistics.blurKind = BlurKind::Unknown;
-    EXPECT_LT(open.number("Sharpen", "param2"), 0.9 * with(0.5, 2.8).number("Sharpen", "param2"));
+    EXPECT_LT(with(0.5, 2.8, BlurKind::Unknown).number("Sharpen", "param2"),
+              0.9 * with(0.5, 2.8).number("Sharpen", "param2"));
     smeared.preferences().sharpeningModel = words("lensblur");
     EXPECT_TRUE(smeared.entry("Sharpen").value(words("isLens")).toBool());
 
