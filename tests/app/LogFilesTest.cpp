@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(LogFiles, PruningKeepsTheTenNewest) {
@@ -13,18 +15,17 @@ TEST(LogFiles, PruningKeepsTheTenNewest) {
         // The names run against the ages, so that only the time can tell which are old.
         const QDateTime now = QDateTime::currentDateTime();
         for (int age = 0; age < present; ++age) {
-            QFile file(folder.filePath(QStringLiteral("%1.ovlog").arg(age, 2, 10, QLatin1Char('0'))));
+            QFile file(folder.filePath(u"%1.ovlog"_s.arg(age, 2, 10, QLatin1Char('0'))));
             ASSERT_TRUE(file.open(QIODevice::WriteOnly));
             ASSERT_TRUE(file.setFileTime(now.addSecs(-60 * age), QFileDevice::FileModificationTime));
         }
-        QFile other(folder.filePath(QStringLiteral("lastSessionFiles.txt")));
+        QFile other(folder.filePath(u"lastSessionFiles.txt"_s));
         ASSERT_TRUE(other.open(QIODevice::WriteOnly));
         LogFiles::prune(QDir(folder.path()));
-        const QStringList left =
-            QDir(folder.path()).entryList({QStringLiteral("*.ovlog")}, QDir::Files, QDir::Name);
+        const QStringList left = QDir(folder.path()).entryList({u"*.ovlog"_s}, QDir::Files, QDir::Name);
         ASSERT_EQ(left.size(), std::min(present, 10));
         for (qsizetype age = 0; age < left.size(); ++age)
-            EXPECT_EQ(left.at(age), QStringLiteral("%1.ovlog").arg(age, 2, 10, QLatin1Char('0')));
+            EXPECT_EQ(left.at(age), u"%1.ovlog"_s.arg(age, 2, 10, QLatin1Char('0')));
         EXPECT_TRUE(other.exists());
     }
 }
@@ -40,7 +41,7 @@ TEST(LogFiles, NamesOfOneSecondDiffer) {
         EXPECT_EQ(QFileInfo(file).fileName(), QString::fromLatin1(name));
     }
     QFile nowhere;
-    LogFiles::openNew(nowhere, QDir(folder.filePath(QStringLiteral("missing"))), time);
+    LogFiles::openNew(nowhere, QDir(folder.filePath(u"missing"_s)), time);
     EXPECT_FALSE(nowhere.isOpen());
 }
 

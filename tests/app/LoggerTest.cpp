@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 #include <thread>
 #include <vector>
 
@@ -18,9 +20,11 @@
 
 namespace {
 
-void start(const QString &directory, int level, bool plain) {
+// Gives the path of the log.
+QString start(const QString &directory, int level, bool plain) {
     TLogger::initialize(directory, level, plain);
     qInstallMessageHandler(&TLogger::handleMessage);
+    return TLogger::currentLogFile();
 }
 
 QByteArray contents(const QString &path) {
@@ -37,17 +41,11 @@ public:
         dup2(m_ends[1], STDERR_FILENO);
         close(m_ends[1]);
     }
-    ~ErrorPipe() {
-        restore();
-        close(m_ends[0]);
-    }
+    ~ErrorPipe() { close(m_ends[0]); }
     Q_DISABLE_COPY_MOVE(ErrorPipe)
-    void restore() {
-        if (m_saved >= 0) {
-            dup2(m_saved, STDERR_FILENO);
-            close(m_saved);
-        }
-        m_saved = -1;
+    void restore() const {
+        dup2(m_saved, STDERR_FILENO);
+        close(m_saved);
     }
     // Reads until every writer has gone.
     QByteArray drain() const {
@@ -66,8 +64,7 @@ private:
 // What a killed program leaves behind, and what whoever follows the log sees.
 TEST(Logger, LinesAreInTheFileWithoutAnotherCall) {
     const QTemporaryDir folder;
-    start(folder.path(), 4, true);
-    const QString path = TLogger::currentLogFile();
+    const QString path = start(folder.path(), 4, true);
     for (const char *text : {"first of it", "second of it"}) {
         qInfo("%s", text);
         const QDeadlineTimer deadline(60000);
@@ -83,8 +80,7 @@ TEST(Logger, FileTakesInfoAndAboveWhateverTheConsoleWants) {
         SCOPED_TRACE(consoleLevel);
         const QTemporaryDir folder;
         testing::internal::CaptureStdout();
-        start(folder.filePath(QStringLiteral("new/Logs")), consoleLevel, false);
-        const QString path = TLogger::currentLogFile();
+        const QString path = start(folder.filePath(u"new/Logs"_s), consoleLevel, false);
         qDebug("a detail");
         qInfo("first %s", "\xc3\xbc");
         qWarning("QML PropertyTracker (x): flood");
@@ -107,11 +103,9 @@ TEST(Logger, FileTakesInfoAndAboveWhateverTheConsoleWants) {
 }
 
 TEST(Logger, LinesOfEachThreadStayInOrder) {
-    constexpr int threads = 4;
-    constexpr int lines = 500;
+    constexpr int threads = 4, lines = 500;
     const QTemporaryDir folder;
-    start(folder.path(), 4, true);
-    const QString path = TLogger::currentLogFile();
+    const QString path = start(folder.path(), 4, true);
     std::vector<std::thread> writers;
     for (int t = 0; t < threads; ++t) {
         writers.emplace_back([t] {
@@ -136,8 +130,7 @@ TEST(Logger, StalledConsoleHoldsNobodyAndLosesNothing) {
     constexpr int lines = 3000; // several times what a pipe holds
     const QTemporaryDir folder;
     ErrorPipe pipe;
-    start(folder.path(), 1, true);
-    const QString path = TLogger::currentLogFile();
+    const QString path = start(folder.path(), 1, true);
     QElapsedTimer timer;
     timer.start();
     for (int i = 0; i < lines; ++i)
@@ -173,10 +166,9 @@ TEST(Logger, MessagesDuringAReplacementDoNoHarm) {
 
 TEST(Logger, UnwritableFolderLeavesTheConsole) {
     const QTemporaryDir folder;
-    ASSERT_TRUE(QFile(folder.filePath(QStringLiteral("file"))).open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QFile(folder.filePath(u"file"_s)).open(QIODevice::WriteOnly));
     testing::internal::CaptureStderr();
-    start(folder.filePath(QStringLiteral("file/Logs")), 2, true);
-    EXPECT_TRUE(TLogger::currentLogFile().isEmpty());
+    EXPECT_TRUE(start(folder.filePath(u"file/Logs"_s), 2, true).isEmpty());
     qWarning("still told");
     TLogger::shutdown();
     EXPECT_NE(testing::internal::GetCapturedStderr().find("Warn | still told "), std::string::npos);
@@ -184,7 +176,7 @@ TEST(Logger, UnwritableFolderLeavesTheConsole) {
 
 TEST(LoggerDeathTest, FatalMessageGetsOut) {
     // A fixed name, because the dying process runs this test from its beginning.
-    const QString folder = QDir::tempPath() + QStringLiteral("/orvane-fatal-log-test");
+    const QString folder = QDir::tempPath() + u"/orvane-fatal-log-test"_s;
     const auto die = [&] {
         QDir(folder).removeRecursively();
         start(folder, 4, true);
@@ -192,7 +184,7 @@ TEST(LoggerDeathTest, FatalMessageGetsOut) {
         qFatal("the end");
     };
     EXPECT_DEATH(die(), "Fatal \\| the end");
-    const QStringList logs = QDir(folder).entryList({QStringLiteral("*.ovlog")}, QDir::Files);
+    const QStringList logs = QDir(folder).entryList({u"*.ovlog"_s}, QDir::Files);
     ASSERT_EQ(logs.size(), 1);
     const QByteArray log = contents(QDir(folder).filePath(logs.first()));
     EXPECT_TRUE(log.contains("Info | before") && log.contains("Fatal | the end")) << log.constData();

@@ -10,14 +10,22 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+void put(const QString &path, const QByteArray &content) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
 
 TEST(Session, ListComesBackAsItWasSaved) {
     const QTemporaryDir logs;
     EXPECT_TRUE(readSessionList(logs.path()).isEmpty()) << "no list yet";
 
     AppState state(logs.path(), sessionListName());
-    const QStringList files = {QStringLiteral("/a b/\u00fcber.jpg"), QStringLiteral("/c.nef")};
+    const QStringList files = {u"/a b/\u00fcber.jpg"_s, u"/c.nef"_s};
     state.setProperty("openFiles", files);
     state.saveFileList();
     EXPECT_EQ(readSessionList(logs.path()), files);
@@ -29,41 +37,33 @@ TEST(Session, ListComesBackAsItWasSaved) {
 
 TEST(Session, ForeignLists) {
     const QTemporaryDir logs;
-    QFile file(QDir(logs.path()).filePath(sessionListName()));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("  /a.jpg \r\n\n/b.jpg");
-    file.close();
-    EXPECT_EQ(readSessionList(logs.path()),
-              QStringList({QStringLiteral("/a.jpg"), QString(), QStringLiteral("/b.jpg")}));
-    ASSERT_TRUE(file.resize(qint64(20) << 20));
+    const QString path = QDir(logs.path()).filePath(sessionListName());
+    put(path, "  /a.jpg \r\n\n/b.jpg");
+    EXPECT_EQ(readSessionList(logs.path()), QStringList({u"/a.jpg"_s, QString(), u"/b.jpg"_s}));
+    ASSERT_TRUE(QFile::resize(path, qint64(20) << 20));
     EXPECT_TRUE(readSessionList(logs.path()).isEmpty()) << "a list no session makes";
     for (const QByteArray &damage :
          {QByteArray("/a.jpg\n\0\0\0\n", 11), QByteArray("/a.jpg\n\xff\xfe/b.jpg\n")}) {
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(damage);
-        file.close();
+        put(path, damage);
         EXPECT_TRUE(readSessionList(logs.path()).isEmpty()) << damage.toPercentEncoding().toStdString();
     }
 }
 
 TEST(SettingsStore, DamagedStoreIsReportedAndKept) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("store.conf"));
+    const QString path = folder.filePath(u"store.conf"_s);
     const auto store = [&path](const QByteArray &content) {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
+        put(path, content);
         const QSettings settings(path, QSettings::IniFormat);
         reportSettingsStore(settings);
-        return settings.value(QStringLiteral("a")).toInt();
+        return settings.value(u"a"_s).toInt();
     };
     EXPECT_EQ(store("[General]\na=1\n"), 1);
-    EXPECT_FALSE(QFile::exists(path + QStringLiteral(".damaged"))) << "nothing is wrong with it";
+    EXPECT_FALSE(QFile::exists(path + u".damaged"_s)) << "nothing is wrong with it";
     const QByteArray broken = "[General]\na=1\n[broken\n\xff\xfe\n";
     for (const QByteArray &damaged : {broken, QByteArray("[General]\na=1\nb=\0\0\n", 19)}) {
         EXPECT_EQ(store(damaged), 1) << "what can be read stands";
-        QFile kept(path + QStringLiteral(".damaged"));
+        QFile kept(path + u".damaged"_s);
         ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
         EXPECT_EQ(kept.readAll(), damaged);
     }
@@ -81,20 +81,20 @@ TEST(Session, ExportingTellsOnlyOfChanges) {
 TEST(AppContext, FoldersAndTheSettingReadOnce) {
     const QTemporaryDir root;
     QSettings settings;
-    settings.setValue(QStringLiteral("developerMode"), true);
+    settings.setValue(u"developerMode"_s, true);
     settings.sync();
-    const AppContext context(QStringLiteral("/m"), root.filePath(QStringLiteral("Logs")));
-    settings.remove(QStringLiteral("developerMode"));
+    const AppContext context(u"/m"_s, root.filePath(u"Logs"_s));
+    settings.remove(u"developerMode"_s);
     EXPECT_TRUE(context.isDev());
-    EXPECT_EQ(context.appName(), QStringLiteral("app"));
-    EXPECT_EQ(context.presetsDirectory(), root.filePath(QStringLiteral("Presets")));
+    EXPECT_EQ(context.appName(), u"app"_s);
+    EXPECT_EQ(context.presetsDirectory(), root.filePath(u"Presets"_s));
     EXPECT_TRUE(QDir(context.presetsDirectory()).exists());
 
-    const AppContext again(QStringLiteral("/m"), root.filePath(QStringLiteral("Logs")));
+    const AppContext again(u"/m"_s, root.filePath(u"Logs"_s));
     EXPECT_FALSE(again.isDev());
     EXPECT_EQ(again.presetsDirectory(), context.presetsDirectory());
-    const AppContext lost(QString(), root.filePath(QStringLiteral("no/where/Logs")));
-    EXPECT_EQ(lost.presetsDirectory(), root.filePath(QStringLiteral("no/where/Presets")));
+    const AppContext lost(QString(), root.filePath(u"no/where/Logs"_s));
+    EXPECT_EQ(lost.presetsDirectory(), root.filePath(u"no/where/Presets"_s));
 }
 
 } // namespace

@@ -13,7 +13,7 @@ public:
     Capture()
         : m_oldOut(std::cout.rdbuf(m_out.rdbuf()))
         , m_oldErr(std::cerr.rdbuf(m_err.rdbuf())) {
-        lines().clear();
+        s_lines.clear();
         m_oldHandler = qInstallMessageHandler(note);
     }
     ~Capture() {
@@ -27,22 +27,17 @@ public:
     std::string out() const { return m_out.str(); }
     std::string err() const { return m_err.str(); }
     /// Level ("debug", "info", "warning", "error") and text of each message.
-    static QStringList log() { return lines(); }
-    static bool logged(const char *line) { return lines().contains(QString::fromUtf8(line)); }
+    static QStringList log() { return s_lines; }
+    static bool logged(const char *line) { return s_lines.contains(QString::fromUtf8(line)); }
 
 private:
     static void note(QtMsgType type, const QMessageLogContext &, const QString &text) {
         static const char *const names[] = {"debug", "warning", "error", "fatal", "info"};
-        lines().append(QString::fromLatin1(names[type]) + QLatin1Char(' ') + text);
-    }
-    static QStringList &lines() {
-        static QStringList all;
-        return all;
+        s_lines.append(QString::fromLatin1(names[type]) + QLatin1Char(' ') + text);
     }
 
-    std::ostringstream m_out;
-    std::ostringstream m_err;
-    std::streambuf *m_oldOut;
-    std::streambuf *m_oldErr;
+    static inline QStringList s_lines;
+    std::ostringstream m_out, m_err;
+    std::streambuf *m_oldOut, *m_oldErr;
     QtMessageHandler m_oldHandler = nullptr;
 };

@@ -1,21 +1,19 @@
+#include "FolderTest.h"
+
 #include "cli/AutopilotConfiguration.h"
 #include "cli/SettingsSummary.h"
 #include "frontends/TEngineController.h"
 #include "model/TControls.h"
 
 #include <QSettings>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class Configuration : public testing::Test {
+class Configuration : public FolderTest {
 protected:
-    QTemporaryDir m_folder;
-    QSettings m_settings{m_folder.filePath(u"settings.ini"_s), QSettings::IniFormat};
+    QSettings m_settings{at(u"settings.ini"_s), QSettings::IniFormat};
 };
 
 constexpr char untouchedSummary[] =

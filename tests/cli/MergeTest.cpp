@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::string_literals;
 
 namespace {
 
@@ -95,47 +96,38 @@ TEST_F(Merge, ACategoryThatAutopilotLeftOut) {
 
 /// What can't be had is said, with what there is; the run goes on.
 TEST_F(Merge, NothingIsSwallowed) {
-    struct Row {
-        QString category;
-        QStringList texts;
-        const char *said;
+    const struct {
+        const char *category, *text, *said;
+    } rows[] = {
+        {"Denoise", "force=0.9",
+         "Denoise: \"force\" is no setting of the model Heavy; it has: strength, enabled, model"},
+        {"Denoise", "strength=50", "Denoise: \"strength\" goes from 0.01 to 1; 50 is taken as 1"},
+        {"Denoise", "strength=0", ""},
+        {"Denoise", "strength=much", "Denoise: \"strength\" takes a number, not \"much\"; 0.75 is used"},
+        {"Denoise", "enabled=no", "Denoise: \"enabled\" is true or false, not \"no\""},
+        {"Denoise", "model=Mild", "Denoise has no model \"Mild\"; there are: Fine, Heavy"},
+        {"Enhance", "lens=maybe", "Enhance: \"lens\" is true or false, not \"maybe\""},
+        {"Enhance", "mode=widht", "Enhance: \"mode\" can't be \"widht\"; there are: scale, width, height"},
+        {"Enhance", "width=400", "Enhance: \"width\" has no effect where mode is scale"},
+        {"Enhance", "scale=big", "Enhance: \"scale\" takes a number above 0, not \"big\""},
+        {"Face Recovery", "", "Face Recovery has no installed model and does nothing"},
     };
-    const Row rows[] = {
-        {u"Denoise"_s,
-         {u"force=0.9"_s},
-         "Denoise: \"force\" is no setting of the model Heavy; it has: strength, enabled, model\n"},
-        {u"Denoise"_s, {u"strength=50"_s}, "Denoise: \"strength\" goes from 0.01 to 1; 50 is taken as 1\n"},
-        {u"Denoise"_s, {u"strength=0"_s}, ""},
-        {u"Denoise"_s,
-         {u"strength=much"_s},
-         "Denoise: \"strength\" takes a number, not \"much\"; 0.75 is used\n"},
-        {u"Denoise"_s, {u"enabled=no"_s}, "Denoise: \"enabled\" is true or false, not \"no\"\n"},
-        {u"Denoise"_s, {u"model=Mild"_s}, "Denoise has no model \"Mild\"; there are: Fine, Heavy\n"},
-        {u"Enhance"_s, {u"lens=maybe"_s}, "Enhance: \"lens\" is true or false, not \"maybe\"\n"},
-        {u"Enhance"_s,
-         {u"mode=widht"_s},
-         "Enhance: \"mode\" can't be \"widht\"; there are: scale, width, height\n"},
-        {u"Enhance"_s, {u"width=400"_s}, "Enhance: \"width\" has no effect where mode is scale\n"},
-        {u"Enhance"_s, {u"scale=big"_s}, "Enhance: \"scale\" takes a number above 0, not \"big\"\n"},
-        {u"Face Recovery"_s, {}, "Face Recovery has no installed model and does nothing\n"},
-    };
-    for (const Row &row : rows) {
+    for (const auto &[category, text, said] : rows) {
         const Capture capture;
         m_options.overrides.clear();
-        override(row.category, row.texts);
+        override(QString::fromLatin1(category), QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts));
         apply(advice);
-        EXPECT_EQ(capture.err(), row.said);
-        const QString logged = u"info [CLI] "_s + QString::fromUtf8(row.said).trimmed();
-        EXPECT_EQ(Capture::log().contains(logged), *row.said != 0) << row.said;
+        EXPECT_EQ(capture.err(), *said ? said + "\n"s : "");
+        EXPECT_EQ(Capture::log().contains(u"info [CLI] "_s + QString::fromUtf8(said)), *said != 0) << said;
     }
 }
 
 /// The size that was asked for isn't contradicted by what Autopilot worked out for another.
 TEST_F(Merge, SizeThatWasAskedFor) {
     override(u"Enhance"_s, {u"width=400"_s, u"mode=width"_s});
-    apply(
-        {{u"Enhance"_s,
-          QVariantMap{{u"enabled"_s, true}, {u"mode"_s, u"scale"_s}, {u"scale"_s, 4}, {u"height"_s, 640}}}});
+    const QVariantMap size = {
+        {u"mode"_s, u"scale"_s}, {u"scale"_s, 4}, {u"height"_s, 640}, {u"enabled"_s, true}};
+    apply({{u"Enhance"_s, size}});
     const QVariantMap params = filter(u"Enhance"_s).value(u"params"_s).toMap();
     EXPECT_EQ(params.value(u"width"_s), u"400"_s);
     EXPECT_FALSE(params.contains(u"scale"_s));

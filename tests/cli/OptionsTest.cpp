@@ -1,13 +1,7 @@
-#include "Capture.h"
+#include "FolderTest.h"
 
 #include "cli/FileGathering.h"
 #include "cli/Options.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -37,100 +31,73 @@ std::string describe(const BatchOptions &o) {
     return words.join(u' ').toStdString();
 }
 
-struct Row {
-    const char *arguments; ///< separated by blanks
-    const char *decided;
-    const char *message = "";
-};
-
-void PrintTo(const Row &row, std::ostream *stream) {
-    *stream << '"' << row.arguments << '"';
-}
-
-class CommandLine : public testing::TestWithParam<Row> {};
-
-} // namespace
-
-TEST_P(CommandLine, IsRead) {
-    const Capture capture;
-    BatchOptions options;
-    const QStringList args = QString::fromUtf8(GetParam().arguments).split(u' ', Qt::SkipEmptyParts);
-    EXPECT_TRUE(gatherFiles(args, categoryStems(), options).isEmpty());
-    EXPECT_EQ(describe(options), GetParam().decided);
-    EXPECT_EQ(capture.err(), GetParam().message);
-    EXPECT_EQ(capture.out(), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Flags, CommandLine,
-    testing::Values(Row{"", ""}, Row{"--cli --LOG -v --verbose", ""},
-                    Row{"--overwrite -r --showSettings --skipProcessing", "overwrite recursive show skip"},
-                    Row{"--OverWrite -recursive --keep-going --override",
-                        "overwrite recursive keep override"},
-                    Row{"-jpg", "f1"}, Row{"--png", "f2"}, Row{"--tif", "f3"}, Row{"--dng", "f4"},
-                    Row{"--dng --preserve", ""}, Row{"-f TIFF", "f3"}, Row{"--format jpg", "f1"},
-                    Row{"-q 0 -c 10 -d 8", "q0 c10 d8"}, Row{"--quality 100 --compression 0", "q100 c0"},
-                    Row{"-tc LZW", "tc2"}, Row{"--tiff-compression zip", "tc1"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    Settings, CommandLine,
-    testing::Values(Row{"--noise", "Denoise[enabled=true]"},
-                    Row{"--denoise strength=50 model=Foo", "Denoise[enabled=true model=Foo strength=50]"},
-                    Row{"--noise enabled=false", "Denoise[enabled=true enabled=false]"},
-                    Row{"--upscale a=1 --UPSCALE b=2", "Enhance[enabled=true b=2 enabled=true a=1]"},
-                    Row{"--lighting --face --raw",
-                        "Exposure Adjust[enabled=true] Face Recovery[enabled=true] RAW[enabled=true]"},
-                    Row{"--color-sharpen", "White Balance Adjust[enabled=true]"},
-                    Row{"--sharpen a=b=c", "Sharpen[enabled=true]",
-                        "[CLI] Invalid file or directory path:a=b=c\n"},
-                    Row{"--sharpen gone.jpg", "Sharpen[enabled=true]",
-                        "[CLI] Invalid file or directory path:gone.jpg\n"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    Bad, CommandLine,
-    testing::Values(
-        Row{"--nothing", "bad", "Unknown argument: --nothing\n"}, Row{"-", "bad", "Unknown argument: -\n"},
-        Row{"--bogus --overwrite", "bad", "Unknown argument: --bogus\n"},
-        Row{"--format bmp", "bad",
-            "Invalid file format specified:bmpExpected one of: jpg, jpeg, png, tif, tiff, dng, or preserve."},
-        Row{"-q 95x", "bad q0", "[CLI] Invalid JPEG quality given: 95x\nExpected number from 0 to 100\n"},
-        Row{"--quality -1", "bad q-1",
-            "[CLI] Invalid JPEG quality given\nExpected number from 0 to 100, but got -1\n"},
-        Row{"-c x", "bad c0", "[CLI] Invalid PNG compression given: x\nExpected number from 0 to 10\n"},
-        Row{"-c 11", "bad c11",
-            "[CLI] Invalid PNG compression given\nExpected number from 0 to 10, but got 11\n"},
-        Row{"-d deep", "bad d0", "Invalid bit depth given: deep\nExpected either 8 or 16.\n"},
-        Row{"-d 12", "bad d12", "Invalid bit depth given\nExpected either 8 or 16, but got 12\n"},
-        Row{"-tc rar", "bad",
-            "Invalid TIFF compression given: rar\nExpected one of \"none\", \"lzw\", or \"zip\"\n"},
-        Row{"--output", "bad", "Missing value after argument: --output\n"},
-        Row{"--overwrite -q", "bad overwrite", "Missing value after argument: -q\n"},
-        Row{"gone --bogus", "", "[CLI] Invalid file or directory path:gone\n"},
-        Row{"gone --keep-going --bogus", "bad keep",
-            "[CLI] Invalid file or directory path:gone\nUnknown argument: --bogus\n"},
-        Row{"gone -f --keep-going", "", "[CLI] Invalid file or directory path:gone\n"}));
-
-namespace {
-
-class Gathering : public testing::Test {
+class Gathering : public FolderTest {
 protected:
     Gathering() {
-        for (const QString &name :
-             {u"b.JPG"_s, u"a.png"_s, u"notes.txt"_s, u"deep/c.tif"_s, u"deep/d.nef"_s}) {
-            QDir().mkpath(QFileInfo(at(name)).path());
-            QFile file(at(name));
-            EXPECT_TRUE(file.open(QFile::WriteOnly));
-        }
+        for (const QString &name : {u"b.JPG"_s, u"a.png"_s, u"notes.txt"_s, u"deep/c.tif"_s, u"deep/d.nef"_s})
+            make(name);
     }
-    QString at(const QString &name) const { return m_folder.path() + u'/' + name; }
     QStringList gather(const QStringList &args) { return gatherFiles(args, categoryStems(), m_options); }
 
-    QTemporaryDir m_folder;
     BatchOptions m_options;
-    Capture m_capture;
 };
 
 } // namespace
+
+TEST(CommandLine, IsRead) {
+    struct Row {
+        const char *arguments; ///< separated by blanks
+        const char *decided, *message = "";
+    };
+    const auto check = [](const Row &row) {
+        SCOPED_TRACE(row.arguments);
+        const Capture capture;
+        BatchOptions options;
+        const QStringList args = QString::fromUtf8(row.arguments).split(u' ', Qt::SkipEmptyParts);
+        EXPECT_TRUE(gatherFiles(args, categoryStems(), options).isEmpty());
+        EXPECT_EQ(describe(options), row.decided);
+        EXPECT_EQ(capture.err(), row.message);
+        EXPECT_EQ(capture.out(), "");
+    };
+    const auto checkAll = [&check](const auto &...rows) { (check(rows), ...); };
+    checkAll(
+        Row("", ""), Row("--cli --LOG -v --verbose", ""),
+        Row("--overwrite -r --showSettings --skipProcessing", "overwrite recursive show skip"),
+        Row("--OverWrite -recursive --keep-going --override", "overwrite recursive keep override"),
+        Row("-jpg", "f1"), Row("--png", "f2"), Row("--tif", "f3"), Row("--dng", "f4"),
+        Row("--dng --preserve", ""), Row("-f TIFF", "f3"), Row("--format jpg", "f1"),
+        Row("-q 0 -c 10 -d 8", "q0 c10 d8"), Row("--quality 100 --compression 0", "q100 c0"),
+        Row("-tc LZW", "tc2"), Row("--tiff-compression zip", "tc1"), Row("--noise", "Denoise[enabled=true]"),
+        Row("--denoise strength=50 model=Foo", "Denoise[enabled=true model=Foo strength=50]"),
+        Row("--noise enabled=false", "Denoise[enabled=true enabled=false]"),
+        Row("--upscale a=1 --UPSCALE b=2", "Enhance[enabled=true b=2 enabled=true a=1]"),
+        Row("--lighting --face --raw",
+            "Exposure Adjust[enabled=true] Face Recovery[enabled=true] RAW[enabled=true]"),
+        Row("--color-sharpen", "White Balance Adjust[enabled=true]"),
+        Row("--sharpen a=b=c", "Sharpen[enabled=true]", "[CLI] Invalid file or directory path:a=b=c\n"),
+        Row("--sharpen gone.jpg", "Sharpen[enabled=true]", "[CLI] Invalid file or directory path:gone.jpg\n"),
+        Row("--nothing", "bad", "Unknown argument: --nothing\n"), Row("-", "bad", "Unknown argument: -\n"),
+        Row("--bogus --overwrite", "bad", "Unknown argument: --bogus\n"),
+        Row("--format bmp", "bad",
+            "Invalid file format specified:bmpExpected one of: jpg, jpeg, png, tif, tiff, dng, or "
+            "preserve."),
+        Row("-q 95x", "bad q0", "[CLI] Invalid JPEG quality given: 95x\nExpected number from 0 to 100\n"),
+        Row("--quality -1", "bad q-1",
+            "[CLI] Invalid JPEG quality given\nExpected number from 0 to 100, but got -1\n"),
+        Row("-c x", "bad c0", "[CLI] Invalid PNG compression given: x\nExpected number from 0 to 10\n"),
+        Row("-c 11", "bad c11",
+            "[CLI] Invalid PNG compression given\nExpected number from 0 to 10, but got 11\n"),
+        Row("-d deep", "bad d0", "Invalid bit depth given: deep\nExpected either 8 or 16.\n"),
+        Row("-d 12", "bad d12", "Invalid bit depth given\nExpected either 8 or 16, but got 12\n"),
+        Row("-tc rar", "bad",
+            "Invalid TIFF compression given: rar\nExpected one of \"none\", \"lzw\", or \"zip\"\n"),
+        Row("--output", "bad", "Missing value after argument: --output\n"),
+        Row("--overwrite -q", "bad overwrite", "Missing value after argument: -q\n"),
+        Row("gone --bogus", "", "[CLI] Invalid file or directory path:gone\n"),
+        Row("gone --keep-going --bogus", "bad keep",
+            "[CLI] Invalid file or directory path:gone\nUnknown argument: --bogus\n"),
+        Row("gone -f --keep-going", "", "[CLI] Invalid file or directory path:gone\n"));
+}
 
 TEST_F(Gathering, FoldersAreWalkedOnceAllOptionsAreRead) {
     QStringList flat = gather({m_folder.path() + u"/"_s, at(u"a.png"_s)});

@@ -1,13 +1,7 @@
-#include "Capture.h"
+#include "FolderTest.h"
 
 #include "cli/OutputNaming.h"
 #include "cli/WriterOptions.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -66,19 +60,12 @@ TEST(WriterOptions, RepairsTellOnceAndLast) {
 
 namespace {
 
-class Naming : public testing::Test {
+class Naming : public FolderTest {
 protected:
-    QString at(const QString &name) const { return m_folder.path() + u'/' + name; }
-    void make(const QString &name) const {
-        QDir().mkpath(QFileInfo(at(name)).path());
-        QFile file(at(name));
-        EXPECT_TRUE(file.open(QFile::WriteOnly));
-    }
     QString name(const QString &input, const QString &extension) {
         return QDir(m_folder.path()).relativeFilePath(m_naming.pathFor(at(input), extension, m_options));
     }
 
-    QTemporaryDir m_folder;
     OutputNaming m_naming;
     BatchOptions m_options;
 };
@@ -86,9 +73,8 @@ protected:
 } // namespace
 
 TEST_F(Naming, BesideTheSource) {
-    make(u"a.jpg"_s);
-    make(u"x-3.jpg"_s);
-    make(u"x-3-1.jpg"_s);
+    for (const QString &there : {u"a.jpg"_s, u"x-3.jpg"_s, u"x-3-1.jpg"_s})
+        make(there);
     EXPECT_EQ(name(u"a.jpg"_s, u"jpg"_s), u"a-1.jpg"_s);
     EXPECT_EQ(name(u"a.jpg"_s, u"jpg"_s), u"a-2.jpg"_s) << "the first still waits to be written";
     EXPECT_EQ(name(u"x-3.jpg"_s, u"jpg"_s), u"x-3-2.jpg"_s);
@@ -119,9 +105,8 @@ TEST_F(Naming, OverwritingSparesWhatTheRunUses) {
 }
 
 TEST_F(Naming, InAFolder) {
-    make(u"in/one.jpg"_s);
-    make(u"in/deep/er/two.jpg"_s);
-    make(u"inside/three.jpg"_s);
+    for (const QString &there : {u"in/one.jpg"_s, u"in/deep/er/two.jpg"_s, u"inside/three.jpg"_s})
+        make(there);
     QDir(m_folder.path()).mkdir(u"out"_s);
     m_options.outputFolder = at(u"out"_s);
     m_options.inputDirectories = {at(u"in"_s)};

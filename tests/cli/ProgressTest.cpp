@@ -6,11 +6,10 @@
 using namespace Qt::StringLiterals;
 
 TEST(Columns, OfWideAndCombiningCharacters) {
-    EXPECT_EQ(columnsOf(u"plain ü"_s), 7);
-    EXPECT_EQ(columnsOf(u"e\u0301"_s), 1);
-    EXPECT_EQ(columnsOf(u"写真"_s), 4);
-    EXPECT_EQ(columnsOf(u"한글"_s), 4);
-    EXPECT_EQ(columnsOf(u"\U0001F600"_s), 2);
+    for (const auto &[text, columns] :
+         {std::pair(u"plain ü"_s, 7), std::pair(u"e\u0301"_s, 1), std::pair(u"写真"_s, 4),
+          std::pair(u"한글"_s, 4), std::pair(u"\U0001F600"_s, 2)})
+        EXPECT_EQ(columnsOf(text), columns);
 }
 
 TEST(ProgressText, WhatFits) {

@@ -17,7 +17,7 @@ namespace testio {
 namespace {
 
 void setSample(ImageData &image, int x, int y, int channel, double value) {
-    const std::size_t i = std::size_t(x) * std::size_t(image.channels()) + std::size_t(channel);
+    const std::size_t i = std::size_t(x * image.channels() + channel);
     const double clamped = std::clamp(value, 0.0, 1.0);
     if (image.bitDepth() == 8)
         image.samples<std::uint8_t>(y)[i] = std::uint8_t(std::lround(clamped * 255));
@@ -69,22 +69,27 @@ std::shared_ptr<ImageData> quarters(int width, int height) {
 }
 
 double valueAt(const ImageData &image, int x, int y, int channel) {
-    const std::size_t i = std::size_t(x) * std::size_t(image.channels()) + std::size_t(channel);
+    const std::size_t i = std::size_t(x * image.channels() + channel);
     return image.bitDepth() == 8 ? image.samples<std::uint8_t>(y)[i]
                                  : image.samples<std::uint16_t>(y)[i] / 257.0;
 }
 
 std::string colourAt(const ImageData &image, int x, int y) {
+    static constexpr const char *Names[] = {"other", "red",   "green", "other",
+                                            "blue",  "other", "other", "white"};
     const auto bright = [&](int c) { return valueAt(image, x, y, c) > 128; };
-    if (bright(0) && bright(1) && bright(2))
-        return "white";
-    if (bright(0) + bright(1) + bright(2) != 1)
-        return "other";
-    return bright(0) ? "red" : (bright(1) ? "green" : "blue");
+    return Names[bright(0) + 2 * bright(1) + 4 * bright(2)];
+}
+
+Corners corners(const ImageData &image) {
+    const int right = image.width() - 4;
+    const int bottom = image.height() - 4;
+    return {colourAt(image, 3, 3), colourAt(image, right, 3), colourAt(image, 3, bottom),
+            colourAt(image, right, bottom)};
 }
 
 double psnr(const ImageData &a, const ImageData &b) {
-    if (a.width() != b.width() || a.height() != b.height() || a.channels() != b.channels())
+    if (sizeOf(a) != sizeOf(b) || a.channels() != b.channels())
         return 0;
     double sum = 0;
     for (int y = 0; y < a.height(); ++y) {
@@ -99,6 +104,10 @@ double psnr(const ImageData &a, const ImageData &b) {
     return mean == 0 ? 200 : std::min(199.0, 10 * std::log10(255 * 255 / mean));
 }
 
+QSize sizeOf(const ImageData &image) {
+    return {image.width(), image.height()};
+}
+
 ReadResult read(const QString &path) {
     return files().read({path, false}, {});
 }
@@ -106,6 +115,19 @@ ReadResult read(const QString &path) {
 WriteResult write(const ImageRef &image, const QString &output, const QVariantMap &options,
                   const QVariantMap &imageData, const QString &input) {
     return files().write({image, input, output, imageData, options}, {});
+}
+
+ReadResult mustRead(const QString &path) {
+    ReadResult result = read(path);
+    EXPECT_TRUE(result.image) << path.toStdString() << ": " << result.error.toStdString();
+    if (!result.image)
+        result.image = quarters(1, 1);
+    return result;
+}
+
+void mustWrite(const ImageRef &image, const QString &output, const QVariantMap &options,
+               const QString &input) {
+    EXPECT_EQ(write(image, output, options, {}, input).error.toStdString(), "");
 }
 
 QByteArray contents(const QString &path) {
@@ -132,16 +154,15 @@ QByteArray wideProfile() {
 
 void writeBayerDng(const QString &path, const std::array<std::array<float, 3>, 4> &quarters, int width,
                    int height) {
-    constexpr float White = 4095;
-    constexpr float Black = 256;
+    constexpr float White = 4095, Black = 256;
     constexpr std::array<float, 3> Neutral = {0.5f, 1, 0.625f}; // the sensor's answer to grey
     TIFF *tiff = TIFFOpen(QFile::encodeName(path).constData(), "w");
-    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, width);
-    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, height);
-    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 16);
-    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
-    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, 32803);
-    TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, height);
+    for (const auto &[tag, value] :
+         {std::pair(TIFFTAG_IMAGEWIDTH, width), std::pair(TIFFTAG_IMAGELENGTH, height),
+          std::pair(TIFFTAG_BITSPERSAMPLE, 16), std::pair(TIFFTAG_SAMPLESPERPIXEL, 1),
+          std::pair(TIFFTAG_PHOTOMETRIC, 32803), std::pair(TIFFTAG_ROWSPERSTRIP, height),
+          std::pair(TIFFTAG_CALIBRATIONILLUMINANT1, 21)})
+        TIFFSetField(tiff, tag, value);
     TIFFSetField(tiff, TIFFTAG_MAKE, "Testmaker");
     TIFFSetField(tiff, TIFFTAG_MODEL, "Model One");
     TIFFSetField(tiff, TIFFTAG_UNIQUECAMERAMODEL, "Testmaker Model One");
@@ -157,7 +178,6 @@ void writeBayerDng(const QString &path, const std::array<std::array<float, 3>, 4
     TIFFSetField(tiff, TIFFTAG_CFAREPEATPATTERNDIM, PatternSize.data());
     TIFFSetField(tiff, TIFFTAG_CFAPATTERN, 4, Pattern.data());
     TIFFSetField(tiff, TIFFTAG_COLORMATRIX1, 9, matrix.data());
-    TIFFSetField(tiff, TIFFTAG_CALIBRATIONILLUMINANT1, 21);
     TIFFSetField(tiff, TIFFTAG_ASSHOTNEUTRAL, 3, Neutral.data());
     const auto white = std::uint32_t(White);
     const float black = Black;

@@ -7,8 +7,6 @@
 #include <QProcess>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 #include <csignal>
 
 #include <sys/resource.h>
@@ -20,26 +18,19 @@ using namespace testio;
 
 namespace {
 
-/// Files of this process may not grow over `bytes`, as on a full disk.
-class SizeLimit {
-public:
-    explicit SizeLimit(rlim_t bytes) {
-        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_old);
-        const rlimit limit{bytes, m_old.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~SizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-    SizeLimit(const SizeLimit &) = delete;
-    SizeLimit &operator=(const SizeLimit &) = delete;
-
-private:
-    rlimit m_old{};
-    void (*m_oldHandler)(int) = nullptr;
-};
+/// Files of this process may not grow over `bytes` here, as on a full disk.
+WriteResult writeUpTo(rlim_t bytes, const ImageRef &image, const QString &output, const QVariantMap &options,
+                      const QString &input = {}) {
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    const rlimit limit{bytes, old.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    const WriteResult result = write(image, output, options, {}, input);
+    setrlimit(RLIMIT_FSIZE, &old);
+    std::signal(SIGXFSZ, handler);
+    return result;
+}
 
 } // namespace
 
@@ -48,27 +39,25 @@ TEST(WriteFailure, TellsWhyAndLeavesNothing) {
     setContents(folder("file"), "x");
     ASSERT_TRUE(QDir().mkpath(folder("folder.jpg")));
     ASSERT_TRUE(QFile::link(folder("loop.jpg"), folder("loop.jpg")));
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), folder("device.jpg")));
-    struct Row {
+    ASSERT_TRUE(QFile::link(u"/dev/full"_s, folder("device.jpg")));
+    const struct {
         const char *name;
         QString path;
         const char *reason;
-    };
-    const std::vector<Row> rows = {
+    } rows[] = {
         {"below a file", folder("file/a.jpg"), "is a file"},
         {"a folder's name", folder("folder.jpg"), "that of a folder"},
         {"a device", folder("device.jpg"), "device or pipe"},
         {"no name", {}, "No output file was named"},
         {"link to itself", folder("loop.jpg"), "link"},
-        {"name too long", folder("") + QString(300, u'n') + QStringLiteral(".jpg"), "too long"},
-        {"no such folder can be made", QStringLiteral("/proc/none/a.jpg"), "."},
+        {"name too long", folder("") + QString(300, u'n') + u".jpg"_s, "too long"},
+        {"no such folder can be made", u"/proc/none/a.jpg"_s, "."},
     };
     const QStringList before = folder.entries();
-    for (const Row &row : rows) {
+    for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         const WriteResult result = write(quarters(20, 20), row.path);
-        EXPECT_NE(result.error.toStdString().find(row.reason), std::string::npos)
-            << result.error.toStdString();
+        EXPECT_TRUE(result.error.contains(QLatin1String(row.reason))) << result.error.toStdString();
         EXPECT_EQ(result.fileSize, 0);
         EXPECT_EQ(folder.entries(), before);
     }
@@ -83,7 +72,7 @@ TEST(WriteFailure, AFolderWithoutPermission) {
     ASSERT_TRUE(self != 0 || ::seteuid(65534) == 0);
     const QString error = write(quarters(20, 20), folder("a.jpg")).error;
     ASSERT_EQ(::seteuid(self), 0);
-    EXPECT_NE(error.indexOf(QStringLiteral("Permission")), -1) << error.toStdString();
+    EXPECT_TRUE(error.contains(u"Permission"_s)) << error.toStdString();
     ::chmod(QFile::encodeName(folder.path()).constData(), 0700);
 }
 
@@ -94,14 +83,9 @@ TEST(WriteFailure, AFullDiskKeepsTheOldFile) {
             SCOPED_TRACE(std::string(name) + " " + std::to_string(limit));
             const Folder folder;
             setContents(folder(name), "old");
-            WriteResult result;
-            {
-                const SizeLimit full(limit);
-                const bool zip = std::string(name).starts_with("zip");
-                result = write(
-                    image, folder(name),
-                    {{QStringLiteral("compression"), zip ? QStringLiteral("zip") : QStringLiteral("none")}});
-            }
+            const QString compression = std::string(name).starts_with("zip") ? u"zip"_s : u"none"_s;
+            const WriteResult result =
+                writeUpTo(limit, image, folder(name), {{u"compression"_s, compression}});
             EXPECT_EQ(result.error.toStdString(), "The file grows over the size that is allowed there.");
             EXPECT_EQ(contents(folder(name)), "old");
             EXPECT_EQ(folder.entries().size(), 1);
@@ -111,31 +95,26 @@ TEST(WriteFailure, AFullDiskKeepsTheOldFile) {
 
 TEST(WriteFailure, TheInputAsOutputIsReplacedWholeOrNotAtAll) {
     const Folder folder;
-    const auto image = picture(300, 200, 3, SampleType::UInt8);
-    ASSERT_EQ(write(image, folder("a.jpg")).error.toStdString(), "");
+    mustWrite(picture(300, 200), folder("a.jpg"));
     setExif(folder("a.jpg"), "Exif.Image.Model", "Model One");
     const QByteArray old = contents(folder("a.jpg"));
-    const ReadResult opened = read(folder("a.jpg"));
-    {
-        const SizeLimit full(3000);
-        EXPECT_NE(write(opened.image, folder("a.jpg"), {}, {}, folder("a.jpg")).error, QString());
-    }
+    const ReadResult opened = mustRead(folder("a.jpg"));
+    EXPECT_NE(writeUpTo(3000, opened.image, folder("a.jpg"), {}, folder("a.jpg")).error, QString());
     EXPECT_EQ(contents(folder("a.jpg")), old);
-    EXPECT_EQ(write(opened.image, folder("a.jpg"), {}, {}, folder("a.jpg")).error.toStdString(), "");
-    EXPECT_EQ(read(folder("a.jpg")).metadata.value(QStringLiteral("model")).toString().toStdString(),
-              "Model One");
+    mustWrite(opened.image, folder("a.jpg"), {}, folder("a.jpg"));
+    EXPECT_EQ(read(folder("a.jpg")).metadata.value(u"model"_s).toString().toStdString(), "Model One");
 }
 
 TEST(WriteFailure, LinksPermissionsAndMissingFolders) {
     const Folder folder;
     const auto image = quarters(30, 20);
-    ASSERT_EQ(write(image, folder("deep/er/still/a.png")).error.toStdString(), "");
+    mustWrite(image, folder("deep/er/still/a.png"));
     EXPECT_TRUE(QFileInfo(folder("deep/er/still/a.png")).isFile());
 
     setContents(folder("real.png"), "old");
     ASSERT_EQ(::chmod(QFile::encodeName(folder("real.png")).constData(), 0640), 0);
     ASSERT_TRUE(QFile::link(folder("real.png"), folder("link.png")));
-    ASSERT_EQ(write(image, folder("link.png")).error.toStdString(), "");
+    mustWrite(image, folder("link.png"));
     EXPECT_TRUE(QFileInfo(folder("link.png")).isSymLink());
     EXPECT_TRUE(read(folder("real.png")).image);
     struct stat s{};
@@ -152,20 +131,20 @@ TEST(WriteFailure, TemporaryFilesOfDeadProcessesGoAndNothingElse) {
     const QString ours = imageio::temporaryPrefix().section(u'-', 0, 1) + u'-';
     const QString left = folder.path() + u'/' + ours + QString::number(dead);
     const QStringList kept = {
-        folder.path() + u'/' + ours + QString::number(::getppid()) + QStringLiteral("-abcdef"),
-        folder("") + QStringLiteral(".orvane-00000000-%1-abcdef").arg(dead),
-        left + QStringLiteral("-abcdef.jpg"),
-        left + QStringLiteral("-"),
+        folder.path() + u'/' + ours + QString::number(::getppid()) + u"-abcdef"_s,
+        folder("") + u".orvane-00000000-%1-abcdef"_s.arg(dead),
+        left + u"-abcdef.jpg"_s,
+        left + u"-"_s,
         folder(".orvane-abcdef"),
         folder("real"),
     };
     for (const QString &path : kept)
         setContents(path, "x");
-    ASSERT_TRUE(QFile::link(folder("real"), left + QStringLiteral("-linked")));
-    ASSERT_TRUE(QDir().mkdir(left + QStringLiteral("-folder")));
+    ASSERT_TRUE(QFile::link(folder("real"), left + u"-linked"_s));
+    ASSERT_TRUE(QDir().mkdir(left + u"-folder"_s));
     const QStringList before = folder.entries();
-    setContents(left + QStringLiteral("-abcdef"), "part of a picture");
-    ASSERT_EQ(write(quarters(20, 20), folder("a.png")).error.toStdString(), "");
+    setContents(left + u"-abcdef"_s, "part of a picture");
+    mustWrite(quarters(20, 20), folder("a.png"));
     EXPECT_TRUE(QFile::remove(folder("a.png")));
     EXPECT_EQ(folder.entries(), before);
 }
@@ -173,20 +152,18 @@ TEST(WriteFailure, TemporaryFilesOfDeadProcessesGoAndNothingElse) {
 TEST(WriteFailure, AKilledProgramLeavesAWholeFile) {
     const Folder folder;
     const QString path = folder("a.png");
-    const auto first = picture(900, 700, 3, SampleType::UInt8);
-    ASSERT_EQ(write(first, path).error.toStdString(), "");
+    const auto first = picture(900, 700);
+    mustWrite(first, path);
     for (const int delay : {0, 20, 50, 90, 140}) {
         QProcess process;
-        process.start(QCoreApplication::applicationFilePath(),
-                      {QStringLiteral("--overwrite-until-killed"), path});
+        process.start(QCoreApplication::applicationFilePath(), {u"--overwrite-until-killed"_s, path});
         ASSERT_TRUE(process.waitForStarted());
         ASSERT_TRUE(process.waitForReadyRead(60000));
         EXPECT_LE(folder.entries().size(), 2) << "what the last one left is gone";
         QTest::qSleep(delay);
         process.kill();
         process.waitForFinished();
-        const ReadResult back = read(path);
-        ASSERT_TRUE(back.image) << back.error.toStdString();
+        const ReadResult back = mustRead(path);
         EXPECT_EQ(psnr(*back.image, *first), 200);
     }
 }
