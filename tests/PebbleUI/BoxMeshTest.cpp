@@ -19,8 +19,7 @@ double roundArea(double width, double height, double radius) {
     return width * height - (4 - std::numbers::pi) * radius * radius;
 }
 
-class Covered {
-public:
+struct Covered {
     void add(const PbBoxMesh &mesh, const PbBoxShape &shape) {
         QSGGeometry geometry(QSGGeometry::defaultAttributes_ColoredPoint2D(), 0);
         mesh.copyTo(geometry);
@@ -31,21 +30,17 @@ public:
             const auto &b = points[indices[i + 1]];
             const auto &c = points[indices[i + 2]];
             const double size = std::abs((b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y)) / 2.0;
-            m_area += size * (a.a + b.a + c.a) / 3.0 / 255.0;
+            area += size * (a.a + b.a + c.a) / 3.0 / 255.0;
         }
         const float out = float(shape.pixel / 2) + 0.001F;
         for (int i = 0; i < geometry.vertexCount(); ++i)
-            m_stays = m_stays && points[i].x >= -out && points[i].y >= -out &&
-                      points[i].x <= float(shape.size.width()) + out &&
-                      points[i].y <= float(shape.size.height()) + out;
+            stays = stays && points[i].x >= -out && points[i].y >= -out &&
+                    points[i].x <= float(shape.size.width()) + out &&
+                    points[i].y <= float(shape.size.height()) + out;
     }
 
-    double area() const { return m_area; }
-    bool stays() const { return m_stays; }
-
-private:
-    double m_area = 0;
-    bool m_stays = true;
+    double area = 0;
+    bool stays = true;
 };
 
 } // namespace
@@ -65,13 +60,13 @@ TEST(BoxMesh, PartsCoverTheBoxOnce) {
         {"too round", {{40, 20}, 99, 0, red, none, 1}, roundArea(40, 20, 10)},
         {"square", {{40, 20}, 0, 0, red, none, 1}, 40 * 20},
         {"unseen", {{40, 20}, 4, 1, none, none, 1}, 0}};
-    for (const auto &[name, shape, area] : rows) {
+    for (const auto &[name, shape, wanted] : rows) {
         Covered covered;
         covered.add(PbBoxMesh::inside(shape), shape);
         using Edge = PbBoxMesh::Edge;
         for (const Edge edge : {Edge::Top, Edge::Right, Edge::Bottom, Edge::Left})
             covered.add(PbBoxMesh::edge(shape, edge), shape);
-        EXPECT_NEAR(covered.area(), area, 0.01 * area + 0.5) << name;
-        EXPECT_TRUE(covered.stays()) << name;
+        EXPECT_NEAR(covered.area, wanted, 0.01 * wanted + 0.5) << name;
+        EXPECT_TRUE(covered.stays) << name;
     }
 }

@@ -20,49 +20,44 @@ TestCase {
         return (b + 0.05) / (a + 0.05);
     }
 
-    function cleanup(): void {
-        PebbleStyle.darkMode = true;
+    function told(what: string, on: string, ratio: real): string {
+        return `${what}, ${on}, ${PebbleStyle.darkMode ? "dark" : "light"}: ${ratio.toFixed(2)}`;
     }
 
-    function test_text_data(): var {
-        const rows = [];
-        for (const dark of [true, false])
-            for (const [text, on] of [["textLight", "pageBkg"], ["textLight", "panelBkg"], ["textLight", "darkerGray"],
-                                      ["textQuiet", "darkerGray"], ["lightGray", "panelBkg"],
-                                      ["lighterGray", "darkestGray"], ["textLight", "noteBkg"], ["alwaysDark", "primeBlue"],
-                                      ["textWarning", "panelBkg"], ["textError", "pageBkg"], ["title", "panelBkg"],
-                                      ["link", "panelBkg"], ["link", "pageBkg"], ["primeRed", "panelBkg"]])
-                rows.push({ tag: `${text} on ${on}, ${dark ? "dark" : "light"}`, dark: dark, text: text, on: on });
-        return rows;
+    function cleanup(): void {
+        PebbleStyle.darkMode = true;
     }
 
     PbText { id: _text; text: "A link" }
 
     // Fields tell of an error by their border, primeRed, which is drawn twice as wide then.
-    function test_text(row: var): void {
-        PebbleStyle.darkMode = row.dark;
-        const color = row.text === "link" ? _text.linkColor : PebbleStyle.color[row.text];
-        const ratio = contrast(color, PebbleStyle.color[row.on]);
-        verify(ratio >= (row.text === "primeRed" ? 3 : least), ratio.toFixed(2));
+    function test_text(): void {
+        for (const dark of [true, false]) {
+            PebbleStyle.darkMode = dark;
+            for (const [text, on] of [["textLight", "pageBkg"], ["textLight", "panelBkg"], ["textLight", "darkerGray"],
+                                      ["textQuiet", "darkerGray"], ["lightGray", "panelBkg"],
+                                      ["lighterGray", "darkestGray"], ["textLight", "noteBkg"], ["alwaysDark", "primeBlue"],
+                                      ["textWarning", "panelBkg"], ["textError", "pageBkg"], ["title", "panelBkg"],
+                                      ["link", "panelBkg"], ["link", "pageBkg"], ["primeRed", "panelBkg"]]) {
+                const color = text === "link" ? _text.linkColor : PebbleStyle.color[text];
+                const ratio = contrast(color, PebbleStyle.color[on]);
+                verify(ratio >= (text === "primeRed" ? 3 : least), told(text, on, ratio));
+            }
+        }
     }
 
-    function test_buttons_data(): var {
-        const rows = [];
-        for (const dark of [true, false])
+    function test_buttons(): void {
+        for (const dark of [true, false]) {
+            PebbleStyle.darkMode = dark;
             for (const type of ["primary", "secondary", "tertiary", "duotone", "warning", "destructive"])
                 for (const state of ["normal", "hovered", "selected"])
-                    rows.push({ tag: `${type} ${state}, ${dark ? "dark" : "light"}`, dark: dark, type: type, state: state });
-        return rows;
-    }
-
-    function test_buttons(row: var): void {
-        PebbleStyle.darkMode = row.dark;
-        const style = PbButtonStyles[row.type];
-        const own = style.background[row.state];
-        const on = own.a === 0 ? PebbleStyle.color.panelBkg : own;
-        for (const part of ["label", "icon"]) {
-            const ratio = contrast(style[part][row.state], on);
-            verify(ratio >= least, `${part} ${ratio.toFixed(2)}`);
+                    for (const part of ["label", "icon"]) {
+                        const style = PbButtonStyles[type];
+                        const own = style.background[state];
+                        const on = own.a === 0 ? PebbleStyle.color.panelBkg : own;
+                        const ratio = contrast(style[part][state], on);
+                        verify(ratio >= least, told(`${type} ${part}`, state, ratio));
+                    }
         }
     }
 }

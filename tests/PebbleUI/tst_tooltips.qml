@@ -75,22 +75,17 @@ PebbleCase {
     }
 
     // The target in each corner, offsets pushing outwards, then back.
-    function test_tip_stays_in_the_plane_data(): var {
-        const rows = [];
+    function test_tip_stays_in_the_plane(): void {
         for (const [x, y] of [[0, 0], [560, 0], [0, 380], [560, 380]])
             for (const side of ["Top", "Right", "Bottom", "Left"])
-                for (const offset of [-30, 0, 30])
-                    rows.push({ tag: `${side} of ${x},${y} by ${offset}`, x: x, y: y, offset: offset,
-                                side: PbTooltipPlane.Alignment[side] });
-        return rows;
-    }
-
-    function test_tip_stays_in_the_plane(row: var): void {
-        const offsets = { offsetX: row.offset, offsetY: row.offset };
-        const tip = showAt(row.x, row.y, Object.assign({ text: "long ".repeat(40), alignment: row.side }, offsets));
-        compare(tip.width, 320);
-        verify(tip.x >= 10 && tip.x + tip.width <= 590, `x ${tip.x}`);
-        verify(tip.y >= 10 && tip.y + tip.height <= 390, `y ${tip.y}`);
+                for (const offset of [-30, 0, 30]) {
+                    const tip = showAt(x, y, { text: "long ".repeat(40), alignment: PbTooltipPlane.Alignment[side],
+                                               offsetX: offset, offsetY: offset });
+                    const place = `${side} of ${x},${y} by ${offset}: ${tip.x},${tip.y}`;
+                    compare(tip.width, 320);
+                    verify(tip.x >= 10 && tip.x + tip.width <= 590, place);
+                    verify(tip.y >= 10 && tip.y + tip.height <= 390, place);
+                }
     }
 
     function test_near_the_right_edge_with_a_negative_offset(): void {

@@ -49,10 +49,10 @@ PebbleCase {
 
     function test_toggle(): void {
         const toggle = _header.panelCollapseButton;
-        compare(toggle.Accessible.name, "Collapse sidebar");
-        mouseClick(toggle);
-        compare(toggle.Accessible.name, "Expand sidebar");
-        mouseClick(toggle);
+        for (const name of ["Collapse sidebar", "Expand sidebar"]) {
+            compare(toggle.Accessible.name, name);
+            mouseClick(toggle);
+        }
     }
 
     function test_window_buttons(): void {

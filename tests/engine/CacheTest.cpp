@@ -33,11 +33,11 @@ TEST(Cache, OnlyWhatChangedRuns) {
     const auto image = Pictures::noisy(*Pictures::scene(80, 60), 9);
     QRect region(0, 0, 80, 60);
     bool full = false;
-    const auto ask = [&](double denoise, double sharpen) {
+    const auto ask = [&](double noise, double blur) {
         ProcRequest request = Engine::request(image);
         Engine::add(request, u"Denoise"_s, u"Denoise"_s, u"Low Light Beta"_s,
-                    {{u"param1_normalv2"_s, denoise}});
-        Engine::add(request, u"Sharpen"_s, u"Sharpen"_s, u"Sharpen Strong"_s, {{u"param2"_s, sharpen}});
+                    {{u"param1_normalv2"_s, noise}});
+        Engine::add(request, u"Sharpen"_s, u"Sharpen"_s, u"Sharpen Strong"_s, {{u"param2"_s, blur}});
         request.region = region;
         request.full = full;
         return request;

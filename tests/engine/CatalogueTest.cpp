@@ -25,11 +25,7 @@ QByteArray network(const QByteArray &entry) {
 
 /// Every name that the program's controls write is there, with the value it starts from.
 TEST(Catalogue, ShippedModels) {
-    struct Row {
-        const char *category, *model, *parameter;
-        double initial, least, most;
-    };
-    const Row rows[] = {
+    const std::tuple<const char *, const char *, const char *, double, double, double> rows[] = {
         {"Denoise", "Low Light Beta", "param1_normalv2", 0, 0.01, 1},
         {"Denoise", "Low Light Beta", "param2_normalv2", 0, 0.01, 1},
         {"Denoise", "Low Light Beta", "recover_detail", 0, 0, 1},
@@ -53,12 +49,11 @@ TEST(Catalogue, ShippedModels) {
         {"White Balance Adjust", "White Balance Standard", "strength", 1, 0.01, 1},
     };
     Engine engine;
-    for (const Row &row : rows) {
-        const QVariantMap ranges =
-            rangesOf(engine.catalogue, QLatin1String(row.category), QLatin1String(row.model));
-        const QVariantMap expected{{u"default"_s, row.initial}, {u"min"_s, row.least}, {u"max"_s, row.most}};
-        EXPECT_EQ(ranges[QLatin1String(row.parameter)].toMap(), expected)
-            << row.category << '/' << row.model << '/' << row.parameter;
+    for (const auto &[category, model, parameter, initial, least, most] : rows) {
+        const QVariantMap ranges = rangesOf(engine.catalogue, QLatin1String(category), QLatin1String(model));
+        const QVariantMap expected{{u"default"_s, initial}, {u"min"_s, least}, {u"max"_s, most}};
+        EXPECT_EQ(ranges[QLatin1String(parameter)].toMap(), expected)
+            << category << '/' << model << '/' << parameter;
     }
     for (const char *missing : {"Face Recovery", "Text Recovery", "Inpaint"})
         EXPECT_FALSE(engine.catalogue.contains(QLatin1String(missing))) << "what does nothing is not offered";
@@ -66,13 +61,7 @@ TEST(Catalogue, ShippedModels) {
 
 /// What a strength of 1 takes away: noise on the 8-bit scale, blur as its spread in pixels.
 TEST(Catalogue, ReachOfTheShippedModels) {
-    struct Row {
-        QString category, model;
-        ModelDefinition::Fault fault;
-        QStringList flags;
-        double reach;
-    };
-    const Row rows[] = {
+    const std::tuple<QString, QString, ModelDefinition::Fault, QStringList, double> rows[] = {
         {u"Denoise"_s, u"Low Light Beta"_s, ModelDefinition::Noise, {}, 50},
         {u"Denoise"_s, u"Severe Noise Beta"_s, ModelDefinition::Noise, {}, 75},
         {u"Denoise"_s, u"Severe Noise"_s, ModelDefinition::Noise, {}, 100},
@@ -87,11 +76,10 @@ TEST(Catalogue, ReachOfTheShippedModels) {
         {u"Exposure Adjust"_s, {}, ModelDefinition::Noise, {}, 0},
     };
     const auto models = ModelCatalogue::read(QStringLiteral(ORVANE_MODELS));
-    for (const Row &row : rows) {
-        const ModelDefinition *model = models->find(row.category, row.model);
-        ASSERT_TRUE(model) << row.model.toStdString();
-        EXPECT_NEAR(model->reach(row.fault, row.flags), row.reach, 1e-3 * row.reach)
-            << row.model.toStdString();
+    for (const auto &[category, name, fault, flags, reach] : rows) {
+        const ModelDefinition *model = models->find(category, name);
+        ASSERT_TRUE(model) << name.toStdString();
+        EXPECT_NEAR(model->reach(fault, flags), reach, 1e-3 * reach) << name.toStdString();
     }
 }
 
@@ -133,11 +121,7 @@ TEST(Catalogue, ANewModelIsAFile) {
 
 /// A damaged file costs its own model and one line that names it, nothing more.
 TEST(Catalogue, DamagedFilesAreSkipped) {
-    struct Row {
-        const char *name;
-        QByteArray contents;
-    };
-    const Row rows[] = {
+    const std::tuple<const char *, QByteArray> rows[] = {
         {"empty", ""},
         {"cut-off", definition("A").left(60)},
         {"list", "[1, 2]"},
@@ -168,8 +152,8 @@ TEST(Catalogue, DamagedFilesAreSkipped) {
     };
     const NetworkFolder dir;
     dir.write(u"a-good.json"_s, definition("Good", R"({"p": {"default": 0.5, "role": "strength"}})"));
-    for (const Row &row : rows)
-        dir.write(u"%1.json"_s.arg(QLatin1String(row.name)), row.contents);
+    for (const auto &[name, contents] : rows)
+        dir.write(u"%1.json"_s.arg(QLatin1String(name)), contents);
     dir.write(u"../stray.json"_s, "not in a category's folder");
 
     const auto engine = makeEngineBackend();
@@ -177,8 +161,8 @@ TEST(Catalogue, DamagedFilesAreSkipped) {
     const QVariantMap catalogue = engine->catalogue(dir.path());
     EXPECT_EQ(catalogue.keys(), QStringList{u"Denoise"_s});
     EXPECT_EQ(catalogue[u"Denoise"_s].toMap().keys(), QStringList{u"Good"_s});
-    for (const Row &row : rows)
-        EXPECT_EQ(log.count(u"/%1.json"_s.arg(QLatin1String(row.name))), 1) << row.name;
+    for (const auto &[name, contents] : rows)
+        EXPECT_EQ(log.count(u"/%1.json"_s.arg(QLatin1String(name))), 1) << name;
     EXPECT_EQ(log.lines().size(), qsizetype(std::size(rows)));
     EXPECT_TRUE(engine->catalogue(dir.file(u"nowhere"_s)).isEmpty());
 }

@@ -27,12 +27,7 @@ ProcResult runSpoilt(Engine &engine) {
 /// A weight file that can't be used costs its own model, and whoever asks for that learns the name.
 TEST(NetworkDamage, IsToldByName) {
     const QByteArray good = TinyOnnx::residual({}).bytes();
-    struct Row {
-        const char *name;
-        std::optional<QByteArray> contents;
-        QString reason;
-    };
-    const Row rows[] = {
+    const std::tuple<const char *, std::optional<QByteArray>, QString> rows[] = {
         {"missing", {}, u"missing"_s},
         {"empty", QByteArray(), u"damaged"_s},
         {"text", "this is no network", u"damaged"_s},
@@ -49,15 +44,15 @@ TEST(NetworkDamage, IsToldByName) {
         {"wrong weights", changed([](Graph &g) { g.constants.back().dims[1] = 5; }), {}},
         {"no numbers", TinyOnnx::residual({.change = NAN}).bytes(), u"no numbers"_s},
     };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, contents, reason] : rows) {
+        SCOPED_TRACE(name);
         const NetworkFolder folder;
         folder.defineRestorer(u"Good"_s, {});
         folder.defineRestorer(u"Spoilt"_s, {});
         const QString file = folder.file(u"Spoilt.onnx"_s);
         ASSERT_TRUE(QFile::remove(file));
-        if (row.contents)
-            folder.write(u"Spoilt.onnx"_s, *row.contents);
+        if (contents)
+            folder.write(u"Spoilt.onnx"_s, *contents);
         const LogCapture log;
         Engine engine({}, folder.path());
         EXPECT_EQ(engine.catalogue[u"Denoise"_s].toMap().keys(), QStringList{u"Good"_s});
@@ -65,7 +60,7 @@ TEST(NetworkDamage, IsToldByName) {
         const ProcResult result = runSpoilt(engine);
         EXPECT_FALSE(result.image);
         EXPECT_TRUE(result.error.contains(u"Spoilt.onnx"_s)) << result.error.toStdString();
-        EXPECT_TRUE(result.error.contains(row.reason)) << result.error.toStdString();
+        EXPECT_TRUE(result.error.contains(reason)) << result.error.toStdString();
     }
 }
 

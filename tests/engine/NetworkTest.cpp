@@ -7,11 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QVariantMap driven{{u"strength"_s, 0.6}, {u"deblur"_s, 0.3}};
-
-} // namespace
+static const QVariantMap driven{{u"strength"_s, 0.6}, {u"deblur"_s, 0.3}};
 
 /// With the halo that follows from a network's layers no tile shows; with a pixel block less one does.
 TEST(Networks, HaloIsExact) {

@@ -28,23 +28,18 @@ std::array<double, 3> colour(const ImageData &image, int x, int y) {
 /// What happens to a pixel depends on the pixel alone; greys keep their order, black and white stay,
 /// nothing clips, alpha is untouched.
 TEST(PointOperations, Table) {
-    struct Row {
-        const char *name;
-        QString category;
-        QVariantMap params;
-    };
-    const Row rows[] = {
+    const std::tuple<const char *, QString, QVariantMap> rows[] = {
         {"brightened", u"Exposure Adjust"_s, {{u"param1"_s, 0.75}}},
         {"intensified", u"Exposure Adjust"_s, {{u"param1"_s, -0.25}}},
         {"warm", u"White Balance Adjust"_s, {{u"temperature"_s, 1.0}}},
         {"cool, half", u"White Balance Adjust"_s, {{u"temperature"_s, 0.01}, {u"strength"_s, 0.5}}},
     };
     Engine &engine = shippedEngine();
-    for (const Row &row : rows) {
+    for (const auto &[name, category, params] : rows) {
         for (const Pictures::Format &format : Pictures::formats) {
-            SCOPED_TRACE(std::string(row.name) + ", " + format.name);
+            SCOPED_TRACE(std::string(name) + ", " + format.name);
             const auto image = swatches(format);
-            const ProcResult result = engine.run(image, row.category, {}, row.params);
+            const ProcResult result = engine.run(image, category, {}, params);
             ASSERT_TRUE(result.image) << result.error.toStdString();
             std::map<std::array<double, 3>, std::array<double, 3>> seen;
             for (int y = 0; y < 48; ++y) {

@@ -3,12 +3,7 @@
 using namespace Qt::StringLiterals;
 
 TEST(Requests, FailuresSayWhat) {
-    struct Row {
-        const char *name;
-        std::function<void(ProcRequest &)> spoil;
-        QString part; ///< of the message
-    };
-    const Row rows[] = {
+    const std::tuple<const char *, std::function<void(ProcRequest &)>, QString> rows[] = {
         {"no picture", [](ProcRequest &r) { r.input.image.reset(); }, u"no picture"_s},
         {"null picture", [](ProcRequest &r) { r.input.image = std::make_shared<ImageData>(); },
          u"no picture"_s},
@@ -20,13 +15,13 @@ TEST(Requests, FailuresSayWhat) {
          u"\"Sparkle\""_s},
     };
     Engine engine;
-    for (const Row &row : rows) {
+    for (const auto &[name, spoil, part] : rows) {
         ProcRequest request = Engine::request(Pictures::scene(40, 30));
-        row.spoil(request);
+        spoil(request);
         const ProcResult result = engine.run(request);
-        EXPECT_FALSE(result.image) << row.name;
-        EXPECT_FALSE(result.cancelled) << row.name;
-        EXPECT_TRUE(result.error.contains(row.part)) << row.name << ": " << result.error.toStdString();
+        EXPECT_FALSE(result.image) << name;
+        EXPECT_FALSE(result.cancelled) << name;
+        EXPECT_TRUE(result.error.contains(part)) << name << ": " << result.error.toStdString();
     }
 }
 

@@ -55,30 +55,25 @@ TEST(SameEverywhere, EveryModel) {
 
 /// Filters behind a change of size, small pictures, and reductions.
 TEST(SameEverywhere, Stacks) {
-    struct Row {
-        const char *name;
-        int width, height;
-        double scale;
-    };
-    for (const Row &row : {Row{"enlarged", 61, 46, 2.3}, Row{"reduced", 121, 95, 0.37},
-                           Row{"smaller than a halo", 9, 5, 3}, Row{"one pixel", 1, 1, 1}}) {
-        SCOPED_TRACE(row.name);
-        const auto image = Pictures::noisy(*Pictures::scene(row.width, row.height, 4), 10);
+    for (const auto &[name, width, height, scale] :
+         {std::tuple("enlarged", 61, 46, 2.3), std::tuple("reduced", 121, 95, 0.37),
+          std::tuple("smaller than a halo", 9, 5, 3.0), std::tuple("one pixel", 1, 1, 1.0)}) {
+        SCOPED_TRACE(name);
+        const auto image = Pictures::noisy(*Pictures::scene(width, height, 4), 10);
         ProcRequest request = Engine::request(image);
         Engine::add(request, u"Denoise"_s, u"Denoise"_s, u"Severe Noise"_s,
                     {{u"param1"_s, 0.3}, {u"param2"_s, 0.5}});
         Engine::add(request, u"Enhance"_s, u"Enhance"_s, u"Standard V2"_s,
-                    {{u"scale"_s, row.scale}, {u"param2"_s, 0.4}});
+                    {{u"scale"_s, scale}, {u"param2"_s, 0.4}});
         Engine::add(request, u"Sharpen2"_s, u"Sharpen"_s, u"Sharpen Strong"_s, {{u"param2"_s, 0.5}});
         const ProcResult whole = uncut().run(request);
         ASSERT_TRUE(whole.image) << whole.error.toStdString();
         EXPECT_EQ(mismatch(*smallTiles().run(request).image, *whole.image, 0, 0), "");
-        request.region =
-            QRect(row.width / 3, row.height / 4, std::max(1, row.width / 2), std::max(1, row.height / 2));
+        request.region = QRect(width / 3, height / 4, std::max(1, width / 2), std::max(1, height / 2));
         request.full = false;
         const ProcResult part = shippedEngine().run(request);
-        const int x = int(double(request.region.x()) * whole.image->width() / row.width + 0.5);
-        const int y = int(double(request.region.y()) * whole.image->height() / row.height + 0.5);
+        const int x = int(double(request.region.x()) * whole.image->width() / width + 0.5);
+        const int y = int(double(request.region.y()) * whole.image->height() / height + 0.5);
         EXPECT_EQ(mismatch(*part.image, *whole.image, x, y), "");
     }
 }

@@ -2,19 +2,14 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-struct Row {
-    const char *name;
-    TRect area;
-    int side, threads;
-    std::size_t count;
-};
-
-} // namespace
-
 /// Every pixel once, no tile over its side, and as many tiles as the threads can share evenly.
 TEST(Tiles, CoverTheAreaAndKeepThreadsBusy) {
+    struct Row {
+        const char *name;
+        TRect area;
+        int side, threads;
+        std::size_t count;
+    };
     const Row rows[] = {
         {"one thread cuts no more than it has to", {0, 0, 2600, 1800}, 640, 1, 15},
         {"an odd one left over would leave a thread idle", {0, 0, 2600, 1800}, 640, 2, 18},

@@ -37,22 +37,19 @@ protected:
 
 TEST_F(EngineRuns, ResultCarriesWhatItStandsFor) {
     EXPECT_EQ(controller->procResult().value(u"requestUid"_s).toInt(), 0);
-    struct Row {
-        const char *name;
-        bool full, exporting, exported;
-    };
-    for (const Row &row : {Row{"preview", false, false, false}, Row{"batch", true, false, true},
-                           Row{"window's export", false, true, true}}) {
-        SCOPED_TRACE(row.name);
-        controller->setExporting(row.exporting);
-        start({{u"changesCount"_s, 7}}, row.full);
+    for (const auto &[name, full, exporting, exported] :
+         {std::tuple("preview", false, false, false), std::tuple("batch", true, false, true),
+          std::tuple("window's export", false, true, true)}) {
+        SCOPED_TRACE(name);
+        controller->setExporting(exporting);
+        start({{u"changesCount"_s, 7}}, full);
         ASSERT_TRUE(controller->processing());
         ASSERT_TRUE(idle());
         const QVariantMap result = controller->procResult();
         EXPECT_EQ(result.value(u"requestRoi"_s).toRect(), QRect(1, 2, 3, 4));
         EXPECT_EQ(result.value(u"changesCount"_s).toInt(), 7);
         EXPECT_EQ(result.value(u"filepath"_s).toString(), u"/pictures/a.jpg"_s);
-        EXPECT_EQ(result.value(u"export"_s).toBool(), row.exported);
+        EXPECT_EQ(result.value(u"export"_s).toBool(), exported);
         EXPECT_TRUE(result.value(u"image"_s).value<std::shared_ptr<ImageData>>());
         EXPECT_EQ(controller->progress(), 1);
     }
@@ -189,25 +186,19 @@ TEST_F(EngineRuns, DestructionStopsEverythingAndStaysSilent) {
 }
 
 TEST_F(EngineRuns, CatalogueIsAlwaysAnnounced) {
-    struct Row {
-        const char *name;
-        QVariantMap models;
-        QString directory;
-        int announcements;
-    };
-    const QVariantMap models{{u"Denoise"_s, QVariantMap()}};
-    for (const Row &row :
-         {Row{"first, unchanged and empty", {}, QString(), 1}, Row{"same again", {}, QString(), 0},
-          Row{"another folder", models, u"models"_s, 1}}) {
-        SCOPED_TRACE(row.name);
-        engine->models = row.models;
+    const QVariantMap none, some{{u"Denoise"_s, QVariantMap()}};
+    for (const auto &[name, models, directory, announcements] :
+         {std::tuple("first, unchanged and empty", none, QString(), 1),
+          std::tuple("same again", none, QString(), 0), std::tuple("another folder", some, u"models"_s, 1)}) {
+        SCOPED_TRACE(name);
+        engine->models = models;
         QSignalSpy announced(controller.get(), &TEngineController::modelParamInfoChanged);
-        controller->setModelDirectory(row.directory);
+        controller->setModelDirectory(directory);
         EXPECT_EQ(announced.size(), 0) << "not before the caller can listen";
-        eventually([&] { return announced.size() == row.announcements; });
+        eventually([&] { return announced.size() == announcements; });
         settle();
-        EXPECT_EQ(announced.size(), row.announcements);
-        EXPECT_EQ(controller->modelParamInfo(), row.models);
+        EXPECT_EQ(announced.size(), announcements);
+        EXPECT_EQ(controller->modelParamInfo(), models);
     }
 }
 

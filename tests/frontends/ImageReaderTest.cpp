@@ -63,23 +63,17 @@ TEST_F(Reader, SamePathLoadsAgainOnlyWhenForced) {
 }
 
 TEST_F(Reader, AbandonedLoadNeverReports) {
-    struct Row {
-        const char *name;
-        QString next;
-        QStringList events;
-    };
-    for (const Row &row :
-         {Row{"another path", u"/b.jpg"_s, {u"image /b.jpg"_s}}, Row{"closed", QString(), {u"image "_s}}}) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[next, event] : {std::pair(u"/b.jpg"_s, u"image /b.jpg"_s), // another path
+                                      std::pair(QString(), u"image "_s)}) {      // closed
         files->readHold.close();
         reader.setFilepath(u"/a.jpg"_s);
         ASSERT_TRUE(eventually([&] { return !files->reads().empty(); }));
         events.clear();
-        reader.setFilepath(row.next);
+        reader.setFilepath(next);
         files->readHold.open();
         ASSERT_TRUE(idle());
         settle();
-        EXPECT_EQ(events, row.events);
+        EXPECT_EQ(events, QStringList(event));
     }
 }
 

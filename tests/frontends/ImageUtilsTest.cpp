@@ -15,26 +15,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 TEST(ImageUtils, ExportExtension) {
-    struct Row {
-        QString original, format;
-        bool colourUsed;
-        QString expected;
-    };
-    for (const Row &row : {
-             Row{u"JPG"_s, u"preserve"_s, false, u"JPG"_s},
-             Row{u"heic"_s, u"preserve"_s, true, u"heic"_s},
-             Row{QString(), u"preserve"_s, false, QString()},
-             Row{u"NEF"_s, u"preserve"_s, false, u"dng"_s},
-             Row{u"nef"_s, u"preserve"_s, true, u"tiff"_s},
-             Row{u"DNG"_s, u"preserve"_s, false, u"DNG"_s},
-             Row{u"dng"_s, u"preserve"_s, true, u"tiff"_s},
-             Row{u"nef"_s, u"jpeg"_s, true, u"jpeg"_s},
-             Row{u"nef"_s, u"dng"_s, false, u"dng"_s},
-             Row{u"png"_s, u"dng"_s, false, u"tiff"_s},
-             Row{u"png"_s, u"TIFF"_s, false, u"tiff"_s},
+    for (const auto &[original, format, colourUsed, expected] : {
+             std::tuple(u"JPG"_s, u"preserve"_s, false, u"JPG"_s),
+             std::tuple(u"heic"_s, u"preserve"_s, true, u"heic"_s),
+             std::tuple(QString(), u"preserve"_s, false, QString()),
+             std::tuple(u"NEF"_s, u"preserve"_s, false, u"dng"_s),
+             std::tuple(u"nef"_s, u"preserve"_s, true, u"tiff"_s),
+             std::tuple(u"DNG"_s, u"preserve"_s, false, u"DNG"_s),
+             std::tuple(u"dng"_s, u"preserve"_s, true, u"tiff"_s),
+             std::tuple(u"nef"_s, u"jpeg"_s, true, u"jpeg"_s),
+             std::tuple(u"nef"_s, u"dng"_s, false, u"dng"_s),
+             std::tuple(u"png"_s, u"dng"_s, false, u"tiff"_s),
+             std::tuple(u"png"_s, u"TIFF"_s, false, u"tiff"_s),
          })
-        EXPECT_EQ(TImageUtils::getExportExtension(row.original, row.format, row.colourUsed), row.expected)
-            << row.original.toStdString() << " as " << row.format.toStdString();
+        EXPECT_EQ(TImageUtils::getExportExtension(original, format, colourUsed), expected)
+            << original.toStdString() << " as " << format.toStdString();
 }
 
 TEST(ImageUtils, PathsOnDisk) {

@@ -33,27 +33,24 @@ AutopilotAnswer answerFor(const std::shared_ptr<ImageData> &image, const ImageSt
 } // namespace
 
 TEST(Hostile, EveryPictureGetsAFiniteAnswerAndUnspoiltOnesAreLeftAlone) {
-    struct Row {
-        const char *name;
-        Picture picture;
-    };
-    const Row rows[] = {{"one pixel", flat(1, 1, {0.3f, 0.5f, 0.7f})},
-                        {"three by three", noisy(flat(3, 3, {0.5f, 0.5f, 0.5f}), 30)},
-                        {"a row", flat(500, 1, {0.2f, 0.2f, 0.2f})},
-                        {"a column", flat(1, 500, {0.2f, 0.2f, 0.2f})},
-                        {"narrow", still(1200, 9)},
-                        {"black", flat(300, 200, {0, 0, 0})},
-                        {"white", flat(300, 200, {1, 1, 1})},
-                        {"grey", flat(300, 200, {0.5f, 0.5f, 0.5f})},
-                        {"saturated red", flat(300, 200, {1, 0, 0})},
-                        {"slopes and edges", still(320, 240)}};
-    for (const Row &row : rows) {
+    const std::tuple<const char *, Picture> rows[] = {
+        {"one pixel", flat(1, 1, {0.3f, 0.5f, 0.7f})},
+        {"three by three", noisy(flat(3, 3, {0.5f, 0.5f, 0.5f}), 30)},
+        {"a row", flat(500, 1, {0.2f, 0.2f, 0.2f})},
+        {"a column", flat(1, 500, {0.2f, 0.2f, 0.2f})},
+        {"narrow", still(1200, 9)},
+        {"black", flat(300, 200, {0, 0, 0})},
+        {"white", flat(300, 200, {1, 1, 1})},
+        {"grey", flat(300, 200, {0.5f, 0.5f, 0.5f})},
+        {"saturated red", flat(300, 200, {1, 0, 0})},
+        {"slopes and edges", still(320, 240)}};
+    for (const auto &[name, picture] : rows) {
         for (const SampleType type : {SampleType::UInt8, SampleType::UInt16}) {
-            SCOPED_TRACE(std::string(row.name) + (type == SampleType::UInt8 ? ", 8 bit" : ", 16 bit"));
-            const auto picture = image(row.picture, type);
-            const ImageStatistics s = measureImage(*picture, {});
+            SCOPED_TRACE(std::string(name) + (type == SampleType::UInt8 ? ", 8 bit" : ", 16 bit"));
+            const auto data = image(picture, type);
+            const ImageStatistics s = measureImage(*data, {});
             expectFinite(s);
-            const AutopilotAnswer answer = answerFor(picture, s);
+            const AutopilotAnswer answer = answerFor(data, s);
             ASSERT_TRUE(answer.error.isEmpty());
             // Not a number would be null there.
             const QByteArray text = QJsonDocument::fromVariant(answer.settings).toJson();

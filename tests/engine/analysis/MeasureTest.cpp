@@ -20,29 +20,24 @@ const Picture &scene() {
 } // namespace
 
 TEST(Noise, WhiteNoiseIsMeasured) {
-    struct Row {
-        const char *name;
-        Picture picture;
-        double sigma;
-        double tolerance;
-    };
     const Picture dark = tinted(scene(), {0.12f, 0.1f, 0.08f});
     Picture onBlack = still(640, 480); // so that the other half is enough to measure
     for (Plane &plane : onBlack)
         std::fill(plane.values.begin(), plane.values.begin() + 640 * 480 / 2, 0.0f);
-    const Row rows[] = {{"weak", scene(), 5, 0.05},
-                        {"medium", scene(), 12, 0.05},
-                        {"strong", scene(), 25, 0.05},
-                        {"strong enough to clip", scene(), 50, 0.08},
-                        {"flat grey", flat(256, 256, {0.5f, 0.5f, 0.5f}), 10, 0.05},
-                        {"black, half of the noise cut off", flat(256, 256, {0, 0, 0}), 10, 0.15},
-                        {"half of it black", onBlack, 15, 0.08},
-                        {"dark picture", dark, 20, 0.15}};
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.name);
-        const ImageStatistics s = measured(noisy(row.picture, row.sigma));
-        EXPECT_NEAR(channelNoise(s) / row.sigma, 1, row.tolerance);
-        EXPECT_NEAR(double(s.lumaNoise) * 255 / row.sigma, 0.669, 0.13);
+    const std::tuple<const char *, Picture, double, double> rows[] = {
+        {"weak", scene(), 5, 0.05},
+        {"medium", scene(), 12, 0.05},
+        {"strong", scene(), 25, 0.05},
+        {"strong enough to clip", scene(), 50, 0.08},
+        {"flat grey", flat(256, 256, {0.5f, 0.5f, 0.5f}), 10, 0.05},
+        {"black, half of the noise cut off", flat(256, 256, {0, 0, 0}), 10, 0.15},
+        {"half of it black", onBlack, 15, 0.08},
+        {"dark picture", dark, 20, 0.15}};
+    for (const auto &[name, picture, sigma, tolerance] : rows) {
+        SCOPED_TRACE(name);
+        const ImageStatistics s = measured(noisy(picture, sigma));
+        EXPECT_NEAR(channelNoise(s) / sigma, 1, tolerance);
+        EXPECT_NEAR(double(s.lumaNoise) * 255 / sigma, 0.669, 0.13);
         EXPECT_LT(s.grainSize, 0.3f);
     }
 }
@@ -67,12 +62,7 @@ TEST(Noise, CoarseGrainIsSeenAndEdgesAndTextureAreNoNoise) {
 }
 
 TEST(Noise, SpotsOfColourAreSeen) {
-    struct Row {
-        const char *name;
-        Picture picture;
-        double least, most;
-    };
-    const Row rows[] = {
+    const std::tuple<const char *, Picture, double, double> rows[] = {
         {"none", scene(), 0, 1.5},
         {"white noise", noisy(scene(), 15), 0, 1.5},
         {"spots", blotched(scene(), 12, 2), 6, 15},
@@ -80,10 +70,10 @@ TEST(Noise, SpotsOfColourAreSeen) {
         {"wide spots below noise", noisy(blotched(scene(), 12, 3.5), 15), 5, 15},
         {"weak spots", noisy(blotched(scene(), 5, 2), 5), 2.5, 6.5},
         {"too small to tell", noisy(blotched(flat(60, 60, {0.5f, 0.5f, 0.5f}), 12, 2), 15), 0, 0}};
-    for (const Row &row : rows) {
-        const double found = 255 * double(measured(row.picture).chromaBlotches);
-        EXPECT_GE(found, row.least) << row.name;
-        EXPECT_LE(found, row.most) << row.name;
+    for (const auto &[name, picture, least, most] : rows) {
+        const double found = 255 * double(measured(picture).chromaBlotches);
+        EXPECT_GE(found, least) << name;
+        EXPECT_LE(found, most) << name;
     }
 }
 
@@ -103,16 +93,9 @@ TEST(Blur, WiderBlurMeasuresWider) {
 }
 
 TEST(Blur, TheKindIsToldFromTheSpectrum) {
-    struct Row {
-        const char *name;
-        Picture picture;
-        BlurKind kind;
-        double size;
-        double degrees;
-    };
     const Picture fine = leaves(Width, Height);
     const auto turned = [](double degrees) { return degrees * std::numbers::pi / 180; };
-    const Row rows[] = {
+    const std::tuple<const char *, Picture, BlurKind, double, double> rows[] = {
         {"sharp", fine, BlurKind::Unknown, 0, 0},
         {"soft", blurred(fine, 1.6), BlurKind::Soft, 1.6, 0},
         {"out of focus", defocused(fine, 3), BlurKind::Defocus, 3, 0},
@@ -122,16 +105,16 @@ TEST(Blur, TheKindIsToldFromTheSpectrum) {
         {"smeared, steep", smeared(fine, 13, turned(120)), BlurKind::Motion, 13, 120},
         {"smeared, with noise", noisy(smeared(fine, 13, turned(120)), 2), BlurKind::Motion, 13, 120},
         {"too much noise", noisy(defocused(fine, 3), 25), BlurKind::Unknown, 0, 0}};
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.name);
-        const ImageStatistics s = measured(row.picture);
-        EXPECT_EQ(int(s.blurKind), int(row.kind));
-        const float size = row.kind == BlurKind::Soft      ? s.softness
-                           : row.kind == BlurKind::Defocus ? s.defocusRadius
-                                                           : s.motionLength;
-        EXPECT_NEAR(size, row.size, 0.15 * row.size);
-        if (row.kind == BlurKind::Motion) {
-            const double turn = std::abs(double(s.motionAngle) - turned(row.degrees));
+    for (const auto &[name, picture, kind, size, degrees] : rows) {
+        SCOPED_TRACE(name);
+        const ImageStatistics s = measured(picture);
+        EXPECT_EQ(int(s.blurKind), int(kind));
+        const float found = kind == BlurKind::Soft      ? s.softness
+                            : kind == BlurKind::Defocus ? s.defocusRadius
+                                                        : s.motionLength;
+        EXPECT_NEAR(found, size, 0.15 * size);
+        if (kind == BlurKind::Motion) {
+            const double turn = std::abs(double(s.motionAngle) - turned(degrees));
             EXPECT_LT(std::min(turn, std::numbers::pi - turn), 0.15);
         }
     }
@@ -145,12 +128,7 @@ TEST(Drawing, DrawingsAreToldFromPhotographs) {
     const Picture shapes =
         drawn([](int x, int y, int c) { return float((x / 20 * 7 + y / 16 * 5 + c * 3) % 16 + 1) / 20; });
     const Picture stem = noisy(leaves(320, 240), 1);
-    struct Row {
-        const char *name;
-        Picture picture;
-        bool drawing;
-    };
-    const Row rows[] = {
+    const std::tuple<const char *, Picture, bool> rows[] = {
         {"flat shapes", shapes, true},
         {"black on white, as text is",
          drawn([](int x, int y, int) { return x % 9 < 2 && y % 14 < 9 ? 0.0f : 1.0f; }), true},
@@ -160,9 +138,9 @@ TEST(Drawing, DrawingsAreToldFromPhotographs) {
          false},
         {"nothing to see", flat(320, 240, {0.4f, 0.5f, 0.6f}), false},
     };
-    for (const Row &row : rows)
-        EXPECT_EQ(measured(row.picture).drawing >= Thresholds::DrawingShare, row.drawing)
-            << row.name << ' ' << measured(row.picture).drawing;
+    for (const auto &[name, picture, drawing] : rows)
+        EXPECT_EQ(measured(picture).drawing >= Thresholds::DrawingShare, drawing)
+            << name << ' ' << measured(picture).drawing;
 }
 
 TEST(Compression, QualityIsReadFromThePixels) {
