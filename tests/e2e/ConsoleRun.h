@@ -8,8 +8,7 @@
 
 struct Answer {
     int code = -1;
-    std::string out;
-    std::string err;
+    std::string out, err;
 };
 
 /// A folder with pictures and the console program to run in it.
@@ -30,6 +29,5 @@ protected:
     void start(QProcess &process, const QStringList &arguments) const;
 
 private:
-    QTemporaryDir m_home;
-    QTemporaryDir m_folder;
+    QTemporaryDir m_home, m_folder;
 };

@@ -9,11 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-class Terminal : public ConsoleRun {};
-
-} // namespace
+using Terminal = ConsoleRun;
 
 // A batch that waits for ever behind an unreadable file, as a person at a terminal sees it.
 TEST_F(Terminal, ProgressLineGoesAwayBeforeCtrlCEndsIt) {
@@ -39,8 +35,7 @@ TEST_F(Terminal, ProgressLineGoesAwayBeforeCtrlCEndsIt) {
     EXPECT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 130);
     EXPECT_TRUE(stopped) << seen;
-    const std::string ending = " \rInterrupted.\r\n";
-    EXPECT_TRUE(seen.ends_with(ending)) << seen;
+    EXPECT_TRUE(seen.ends_with(" \rInterrupted.\r\n")) << seen;
 }
 
 // Whatever the moment, afterwards the folder holds whole pictures only.

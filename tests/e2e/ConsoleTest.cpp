@@ -2,34 +2,32 @@
 
 #include <QDir>
 #include <QImage>
+#include <QtEndian>
+
+#include <zlib.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class Console : public ConsoleRun {};
+using Console = ConsoleRun;
 
 bool holds(const std::string &text, const QString &part) {
     return text.find(part.toStdString()) != std::string::npos;
 }
 
 // A PNG that claims a size and has no pixels.
-QByteArray hugePng(quint32 width, quint32 height) {
+QByteArray hugePng(quint32 side) {
     const auto big = [](quint32 n) {
-        return QByteArray{}.append(char(n >> 24)).append(char(n >> 16)).append(char(n >> 8)).append(char(n));
+        n = qToBigEndian(n);
+        return QByteArray(reinterpret_cast<const char *>(&n), 4);
     };
-    const auto crc = [](const QByteArray &bytes) {
-        quint32 c = ~0U;
-        for (const char byte : bytes) {
-            c ^= uchar(byte);
-            for (int bit = 0; bit < 8; ++bit)
-                c = c & 1 ? 0xEDB88320U ^ (c >> 1) : c >> 1;
-        }
-        return ~c;
+    const auto chunk = [&big](const QByteArray &named) {
+        const auto *bytes = reinterpret_cast<const Bytef *>(named.constData());
+        return big(quint32(named.size()) - 4) + named + big(quint32(crc32(0, bytes, uInt(named.size()))));
     };
-    const QByteArray header = "IHDR" + big(width) + big(height) + QByteArray("\x08\x02\x00\x00\x00", 5);
-    const QByteArray end = "IEND";
-    return "\x89PNG\r\n\x1a\n" + big(13) + header + big(crc(header)) + big(0) + end + big(crc(end));
+    return "\x89PNG\r\n\x1a\n" + chunk("IHDR" + big(side) + big(side) + QByteArray("\x08\x02\0\0\0", 5)) +
+           chunk("IEND");
 }
 
 } // namespace
@@ -38,17 +36,15 @@ TEST_F(Console, EndsBeforeAnyWork) {
     const QString good = picture(u"good.png"_s);
     const QString gone = u"[CLI] Invalid file or directory path:gone.jpg\nNo valid image files passed\n"_s;
     QDir().mkpath(at(u"none"_s));
+    const QString none = u"No valid image files passed\n"_s;
     struct {
         const char *what;
         QStringList arguments;
         int code;
         QString error;
     } const rows[] = {
-        {"nothing", {}, 255, u"No valid image files passed\n"_s},
-        {"folder without pictures",
-         {at(u"none"_s), u"--keep-going"_s},
-         255,
-         u"No valid image files passed\n"_s},
+        {"nothing", {}, 255, none},
+        {"folder without pictures", {at(u"none"_s), u"--keep-going"_s}, 255, none},
         {"missing file", {u"gone.jpg"_s}, 255, gone},
         {"missing file among none", {u"gone.jpg"_s, u"--keep-going"_s}, 255, gone},
         {"unknown option", {good, u"--nothing"_s}, 253, u"Unknown argument: --nothing\n"_s},
@@ -65,37 +61,29 @@ TEST_F(Console, EndsBeforeAnyWork) {
 }
 
 TEST_F(Console, BadInputIsToldAndStopsNobody) {
-    const QByteArray photo = [this] {
-        picture(u"whole.jpg"_s, 400, 300);
-        return contentOf(u"whole.jpg"_s);
-    }();
-    const struct {
-        const char *what;
-        QString path;
-    } bad[] = {
-        {"empty", file(u"empty.jpg"_s, {})},
-        {"text", file(u"text.png"_s, "no picture at all")},
-        {"header only", file(u"header.jpg"_s, photo.left(160))},
-        {"claims 30,000 x 30,000", file(u"claims.png"_s, hugePng(30000, 30000))},
-        {"claims 4 billion", file(u"claims more.png"_s, hugePng(0x7fffffff, 0x7fffffff))},
-        {"raw without content", file(u"raw.nef"_s, QByteArray(4096, 'x'))},
+    picture(u"whole.jpg"_s, 400, 300);
+    const QStringList bad = {
+        file(u"empty.jpg"_s, {}),
+        file(u"text.png"_s, "no picture at all"),
+        file(u"header only.jpg"_s, contentOf(u"whole.jpg"_s).left(160)),
+        file(u"claims 30000 by 30000.png"_s, hugePng(30000)),
+        file(u"claims 2 billion by 2 billion.png"_s, hugePng(0x7fffffff)),
+        file(u"raw without content.nef"_s, QByteArray(4096, 'x')),
     };
-    QStringList paths;
-    for (const auto &row : bad) {
-        const Answer answer = run({row.path, u"-o"_s, at(u"out"_s)});
-        EXPECT_EQ(answer.code, 0) << row.what << ": a plain run always ends with 0";
-        EXPECT_TRUE(holds(answer.out, u"Skipping image due to error: "_s + row.path + u'\n')) << row.what;
-        paths.append(row.path);
+    for (const QString &path : bad) {
+        const Answer answer = run({path, u"-o"_s, at(u"out"_s)});
+        EXPECT_EQ(answer.code, 0) << path.toStdString() << ": a plain run always ends with 0";
+        EXPECT_TRUE(holds(answer.out, u"Skipping image due to error: "_s + path + u'\n')) << answer.out;
     }
     EXPECT_EQ(filesIn(u"out"_s), QStringList());
 
-    const Answer answer =
-        run(QStringList{u"--keep-going"_s, u"-o"_s, at(u"out"_s)} + paths + QStringList{at(u"whole.jpg"_s)});
+    const QStringList options = {u"--keep-going"_s, u"-o"_s, at(u"out"_s), at(u"whole.jpg"_s)};
+    const Answer answer = run(bad + options);
     EXPECT_EQ(answer.code, 1);
     EXPECT_EQ(filesIn(u"out"_s), QStringList{u"whole.jpg"_s});
     EXPECT_TRUE(holds(answer.err, u"6 of 7 files failed:\n"_s)) << answer.err;
-    for (const auto &row : bad)
-        EXPECT_TRUE(holds(answer.err, u"\n    "_s + row.path + u": "_s)) << row.what;
+    for (const QString &path : bad)
+        EXPECT_TRUE(holds(answer.err, u"\n    "_s + path + u": "_s)) << answer.err;
 }
 
 TEST_F(Console, OddButGoodInput) {
@@ -115,9 +103,8 @@ TEST_F(Console, OddButGoodInput) {
 }
 
 TEST_F(Console, FoldersAreRecreatedAndOriginalsKept) {
-    picture(u"in/a.png"_s);
-    picture(u"in/deep/er/b.jpg"_s);
-    picture(u"in/deep/a.png"_s);
+    for (const QString &name : {u"in/a.png"_s, u"in/deep/er/b.jpg"_s, u"in/deep/a.png"_s})
+        picture(name);
     const QByteArray before = contentOf(u"in/deep/er/b.jpg"_s);
     EXPECT_EQ(run({at(u"in"_s), u"-r"_s, u"-o"_s, at(u"out"_s), u"--keep-going"_s}).code, 0);
     EXPECT_EQ(filesIn(u"out"_s), (QStringList{u"a.png"_s, u"deep/a.png"_s, u"deep/er/b.jpg"_s}));
@@ -143,13 +130,12 @@ TEST_F(Console, AResultIsNamedAsItIsWritten) {
 }
 
 TEST_F(Console, AResultThatCannotBeWritten) {
-    picture(u"a.png"_s);
-    picture(u"b.png"_s);
     QDir().mkpath(at(u"out/a.png"_s));
-    const Answer answer = run({at(u"a.png"_s), at(u"b.png"_s), u"-o"_s, at(u"out"_s), u"--overwrite"_s});
+    const Answer answer =
+        run({picture(u"a.png"_s), picture(u"b.png"_s), u"-o"_s, at(u"out"_s), u"--overwrite"_s});
     EXPECT_EQ(answer.code, 0);
-    EXPECT_TRUE(holds(answer.err, u"Could not save file '"_s + at(u"out/a.png"_s) + u"' Error: "_s))
-        << answer.err;
+    const QString message = u"Could not save file '"_s + at(u"out/a.png"_s) + u"' Error: "_s;
+    EXPECT_TRUE(holds(answer.err, message)) << answer.err;
     EXPECT_EQ(filesIn(u"out"_s), QStringList{u"b.png"_s});
 }
 

@@ -10,8 +10,7 @@
 #include <string>
 #include <vector>
 
-/// The window without its screen: the model, the reader and the engine joined as the window joins them, with
-/// the real back ends behind them.
+/// The window without its screen: model, reader and engine joined as there, over the real back ends.
 class PreviewStudio {
 public:
     explicit PreviewStudio(const QString &picture);
@@ -20,8 +19,7 @@ public:
     void add(const QString &name, const QString &category, const QString &model);
     void clear();
 
-    /// Processes a region as the scheduler asks for it; null with a failure of the test when nothing comes
-    /// back.
+    /// Processes a region as the scheduler asks for it.
     QVariantMap preview(const QRectF &region);
     /// Processes a region as an export does.
     QVariantMap exported(const QRectF &region);
