@@ -2,11 +2,11 @@
 
 #include "app/AppState.h"
 #include "app/studio/GuiWatch.h"
+#include "frontends/AppContext.h"
 #include "frontends/TMathUtils.h"
 #include "items/WindowsThemeListener.h"
 #include "presets/TFilterGenerator.h"
 #include "presets/TFormat.h"
-#include "frontends/AppContext.h"
 
 #include <QQmlApplicationEngine>
 

@@ -46,8 +46,9 @@ Filter automatic(const Case &one, const cv::Mat &damaged) {
     input.isRaw = one.file != File::Picture;
     input.metadata[u"linearRaw"_s] = one.file == File::LinearRaw;
     Filter filter = one.settings.front();
-    const QVariantMap found =
-        analyseImage(input, measureImage(*input.image, {}), *models, {}, {}).settings[filter.category].toMap();
+    const QVariantMap found = analyseImage(input, measureImage(*input.image, {}), *models, {}, {})
+                                  .settings[filter.category]
+                                  .toMap();
     for (auto value = filter.params.begin(); value != filter.params.end(); ++value)
         *value = found.value(value.key(), *value);
     return filter;
