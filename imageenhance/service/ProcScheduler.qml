@@ -39,7 +39,7 @@ QtObject {
         _top.engine.procRequest(roi, _top.windowState.controls.filterOrder);
     }
 
-    // The whole cropped image, for an export. Cancels nothing.
+    // The whole cropped image, for an export. The engine ends a run that is under way, as for every request.
     function procFull(): void {
         const helpers = _top.windowState.helpers;
         const size = helpers.imageDataUtils.imageSize(_top.engine.inputImage.image);
