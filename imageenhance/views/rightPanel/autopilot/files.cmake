@@ -1,0 +1,2 @@
+list(APPEND STUDIO_QML
+)
