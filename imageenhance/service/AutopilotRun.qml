@@ -64,6 +64,18 @@ QtObject {
             _private.addingFilters = !_top.windowState.isRefining;
             _top.windowState.controls.landAutopilot(answer, _top.settings.autopilotRecommendFilters, _private.addingFilters);
             _private.addingFilters = false;
+            _top.panel.readyToAddFilters();
+        }
+
+        // The measured levels belong to the record.
+        function onAutoProblemsUpdated(uid: string, problems: var): void {
+            const controls = _top.windowState.controls;
+            if (_top.engine.inputImage.uid !== uid || !uid.includes(controls.currentImage))
+                return;
+            if (problems.noise_level !== undefined)
+                controls.setNoiseLevel(problems.noise_level);
+            if (problems.blur_level !== undefined)
+                controls.setBlurLevel(problems.blur_level);
         }
 
         // Models that a run needed were missing and are here now.

@@ -27,7 +27,7 @@ QtObject {
         preview: _top.preview
         panel: _top.panel
         windowState: _top.windowState
-        addingFilter: _autopilot.addingFilters
+        addingFilter: _autopilot.addingFilters || _top.panel.addingFilter
     }
 
     readonly property AutopilotRun _autopilotObject: AutopilotRun {

@@ -11,6 +11,7 @@ QtObject {
     readonly property bool slashHeld: _private.holds(Qt.Key_Backslash)
     readonly property bool hHeld: _private.holds(Qt.Key_H)
     readonly property bool mHeld: _private.holds(Qt.Key_M)
+    readonly property bool shiftHeld: (_private.modifiers & Qt.ShiftModifier) !== 0
     readonly property bool panKeyHeld: spaceHeld || hHeld
 
     // Both answer whether it is one of the keys. A held key repeats releases and presses, which are neither.

@@ -8,6 +8,8 @@ QtObject {
 
     required property RightPanelState panelState
 
+    signal autopilotNeedsConfirmation
+
     // False where Autopilot would replace filters and the user has to be asked first.
     function loadNewFiltersIntoEdits(manuallyRunAP = false): bool {
         const controls = panelState.controls;
@@ -15,7 +17,7 @@ QtObject {
             load();
         } else if (panelState.engine.recommendFilters || manuallyRunAP) {
             if (panelState.currentFilterStack.length > 0) {
-                panelState.autopilotNeedsConfirmation();
+                autopilotNeedsConfirmation();
                 return false;
             }
             controls.applyRecommendedFilters();
@@ -32,6 +34,11 @@ QtObject {
         if (panelState.currentFilterStack.length === 0)
             panelState.showStack(_private.shown(Stack.normalised(controls.filterOrder)));
         controls.setFilterOrder(panelState.currentFilterStack);
+    }
+
+    // The record's order was set elsewhere: rows that stay keep what is open in them.
+    function follow(): void {
+        panelState.showStack(Stack.normalised(panelState.controls.filterOrder));
     }
 
     readonly property QtObject _private: QtObject {

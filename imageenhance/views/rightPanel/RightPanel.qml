@@ -1,37 +1,80 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import PebbleUI
 import TControls
+import TFilterGenerator
+import TPresetsManager
 import imageenhance
 
-// The column at the window's right edge: the navigator on top, the enhancements under it. Owns the edit mode of the
-// whole window.
+// The column at the window's right edge: the navigator on top, what is done to the image under it, the buttons that
+// export at the bottom. Owns the edit mode of the whole window; what happens without a screen is in PanelLogic.
 Rectangle {
     id: _top
 
-    required property TControls controls
+    required property ImageProcessor engine
+    required property WindowState windowState
     required property MainSettings settings
+    required property TPresetsManager presets
+    required property TFilterGenerator generator
     required property Item navigator // shown in the panel's slot
-    required property bool imageOpen
+    required property Item layer // over the work area: what opens beside the panel lies there
+    required property bool shiftHeld
 
+    readonly property TControls controls: windowState.controls
+    readonly property alias logic: _logic
+    readonly property alias autopilotStatus: _column.autopilotStatus
+    readonly property int editMode: _logic.modes.editMode
     readonly property int fullWidth: 272
     readonly property int collapsedWidth: 48
     readonly property bool collapsed: settings.rightPanelCollapsed && editMode !== EditMode.Crop
-    readonly property alias editMode: _private.editMode
     readonly property alias animating: _animation.running
     readonly property int navigatorWidth: fullWidth
-    readonly property bool saveButtonActive: false
+    readonly property bool saveButtonActive: windowState.imageOpen && !windowState.isLoading && !windowState.autopilotRunning && editMode !== EditMode.Crop
+    readonly property bool addingFilter: _logic.stack.addingFilter
+    readonly property bool enhancementsPanelOpen: _beside.addPanel.open
+    readonly property real sidebarOffset: _beside.sidebarOffset // what the preview gives up at its right side
+    readonly property alias suggestions: _suggestions
 
     readonly property alias fileSize: _private.fileSize // of a save with the present settings; 0 when unknown
     readonly property alias fileSizeError: _private.fileSizeError
 
     signal estimateFileSize
+    signal saveRequested(bool quick)
+    signal saveAsPreset
+    signal editPreset(string name)
+    signal deletePreset(string name)
+    signal focusWanted // the keyboard goes back to the window
 
     function closeRefineMode(): void {
-        _private.editMode = EditMode.None;
+        _logic.stack.closeRefineMode();
     }
 
     function showSteps(steps: var): void {
-        _private.steps = steps;
+        autopilotStatus.setFilter(steps);
+    }
+
+    function readyToAddFilters(): void {
+        _logic.readyToAddFilters();
+    }
+
+    function toggleEnhancementsPanel(): void {
+        if (windowState.imageOpen && !windowState.autopilotRunning)
+            _beside.addPanel.toggle();
+    }
+
+    function focusFirstItem(): void {
+        _beside.addPanel.focusFirstItem();
+    }
+
+    function focusApplyAutopilot(): void {
+        _beside.addPanel.focusApplyAutopilot();
+    }
+
+    // By hand; false where the user is asked first.
+    function applyAutopilot(): bool {
+        const applied = _logic.applyAutopilot();
+        _suggestions.regenerate();
+        return applied;
     }
 
     // Of the picture before it is enlarged.
@@ -60,19 +103,86 @@ Rectangle {
         }
     }
 
+    PanelLogic {
+        id: _logic
+        controls: _top.controls
+        engine: _top.engine
+        presets: _top.presets
+        windowState: _top.windowState
+        onAutopilotAdded: {
+            if (_top.shiftHeld !== _top.enhancementsPanelOpen)
+                _beside.addPanel.toggle();
+        }
+        onPresetTriggered: _suggestions.regenerate()
+    }
+    SuggestionList {
+        id: _suggestions
+        controls: _top.controls
+        generator: _top.generator
+        settings: _top.settings
+        engine: _top.engine
+        vocabulary: _logic.vocabulary
+        inputSize: _top.windowState.inputSize
+        rowCount: _logic.stack.enhancementsModel.count
+        autopilotRunning: _top.windowState.autopilotRunning
+        onWanted: category => {
+            _logic.stack.closeOpenRefinePanel();
+            _logic.stack.addNewFilterToHistory(category, _logic.stack.getAdjustedFilterName(category), true);
+        }
+    }
+    PanelLayer {
+        id: _beside
+        parent: _top.layer
+        anchors.fill: parent
+        panel: _top
+        anchorItem: _controlBar.addButton
+        actions: _column.actions
+    }
+
     Item {
         id: _navigatorSlot
 
         width: _top.fullWidth
-        height: _top.navigator?.implicitHeight ?? 0
-        visible: !_top.collapsed && _top.imageOpen
+        height: visible ? _top.navigator?.implicitHeight ?? 0 : 0
+        visible: !_top.collapsed && _top.windowState.imageOpen
+    }
+    PanelControlBar {
+        id: _controlBar
+        anchors { left: parent.left; right: parent.right; top: _navigatorSlot.bottom }
+        visible: _top.windowState.imageOpen && _top.editMode !== EditMode.Crop
+        collapsed: _top.collapsed
+        panelOpen: _top.enhancementsPanelOpen
+        enabled: !_top.windowState.autopilotRunning
+        steps: _logic.steps
+        onToggleAddPanel: _top.toggleEnhancementsPanel()
+    }
+    WorkingColumn {
+        id: _column
+        anchors { left: parent.left; right: parent.right; top: _controlBar.bottom; bottom: _exports.top }
+        visible: _top.editMode !== EditMode.Crop
+        panel: _top
+    }
+    ExportButtons {
+        id: _exports
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        visible: _top.windowState.imageOpen
+        collapsed: _top.collapsed
+        windowState: _top.windowState
+        active: _top.saveButtonActive
+        onSaveRequested: quick => _top.saveRequested(quick)
+    }
+
+    // A floating refine panel may be dropped here.
+    Rectangle {
+        anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
+        width: 3
+        visible: _logic.stack.canReattach
+        color: PebbleStyle.color.primeBlue
     }
 
     QtObject {
         id: _private
 
-        property int editMode: EditMode.None
-        property var steps: []
         property real fileSize: 0
         property string fileSizeError: ""
 

@@ -31,7 +31,6 @@ QtObject {
 
     signal hideAddPanel
     signal warnAboutDuplicateFilters
-    signal autopilotNeedsConfirmation // it would replace the filters that the image has
 
     function getAdjustedFilterName(category: string): string {
         return Stack.adjustedName(_private.stack, category);

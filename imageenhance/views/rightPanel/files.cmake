@@ -1,13 +1,20 @@
 list(APPEND STUDIO_QML
   views/rightPanel/ColumnLoading.qml
   views/rightPanel/EditModes.qml
+  views/rightPanel/EditSteps.qml
   views/rightPanel/EnhancementsModel.qml
+  views/rightPanel/ExportButtons.qml
   views/rightPanel/FilterVocabulary.qml
+  views/rightPanel/PanelControlBar.qml
+  views/rightPanel/PanelLayer.qml
+  views/rightPanel/PanelLogic.qml
   views/rightPanel/ProgressState.qml
   views/rightPanel/RightPanel.qml
   views/rightPanel/RightPanelState.qml
+  views/rightPanel/ShownSelection.qml
   views/rightPanel/StatusBar.qml
   views/rightPanel/StatusHelp.qml
   views/rightPanel/StatusIndicator.qml
   views/rightPanel/StatusRules.qml
+  views/rightPanel/WorkingColumn.qml
 )
