@@ -68,8 +68,7 @@ def combinations():
     # Autopilot's own, which have no subject of their own until a person opens them, and what is added to these.
     for length in range(1, MOST_FILTERS + 1):
         for own in itertools.combinations(SELECTIVE, length):
-            rest = [name for name in names if name not in own]
-            for more in one_after_another(rest, MOST_FILTERS - length):
+            for more in one_after_another(names, MOST_FILTERS - length):
                 add([token(name) for name in own] + list(more))
     # Two filters with subjects that a person chose.
     every = [token(name, subject) for name in SELECTIVE for subject in CHOSEN] + [token(name) for name in ("FACE", "TEXT", "REMOVE")]
