@@ -6,9 +6,16 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 enum class OutputFormat { Preserve = 0, Jpeg = 1, Png = 2, Tiff = 3, Dng = 4 };
 enum class TiffCompression { None = 0, Zip = 1, Lzw = 2 };
+
+/// A preset's filters, in the shapes of TControls::applyPresetToImage.
+struct BatchPreset {
+    QVariantMap controls;
+    QStringList filterOrder; ///< empty: there is no preset
+};
 
 /// What the command line of a batch run decides.
 struct BatchOptions {
@@ -30,6 +37,9 @@ struct BatchOptions {
 
     QMultiMap<QString, QString> overrides; ///< category to "key=value", the latest written first
     bool overrideAutopilot = false;
+
+    QString presetName; ///< as it was written
+    BatchPreset preset; ///< what it names, read once the command line is; see PresetOption.h
 
     QStringList missingPaths; ///< named but not there; filled under keepGoing only
 };

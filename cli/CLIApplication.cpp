@@ -4,6 +4,7 @@
 #include "cli/Console.h"
 #include "cli/FileGathering.h"
 #include "cli/Options.h"
+#include "cli/PresetOption.h"
 #include "cli/SettingsMerge.h"
 #include "cli/SettingsSummary.h"
 #include "cli/Usage.h"
@@ -44,6 +45,7 @@ void CLIApplication::connectAll() {
     connect(&m_reader, &TImageReader::imagedataChanged, this, &CLIApplication::imageReadFinished);
     connect(&m_reader, &TImageReader::errorChanged, this, &CLIApplication::loadError);
     connect(&m_engine, &TEngineController::autoPilotFinished, this, &CLIApplication::autoPilotFinished);
+    connect(&m_engine, &TEngineController::autoProblemsUpdated, this, &CLIApplication::storeLevels);
     connect(&m_engine, &TEngineController::canceled, this, &CLIApplication::engineCanceled);
     connect(&m_engine, &TEngineController::procError, this, &CLIApplication::engineError);
     connect(&m_engine, &TEngineController::procResultChanged, this, &CLIApplication::engineFinished);
@@ -76,7 +78,7 @@ void CLIApplication::printUsage() {
 int CLIApplication::run(const AppContext &context) {
     qInfo() << "[CLI] Running CLI";
     const QStringList files = gatherFiles(QCoreApplication::arguments().mid(1));
-    if (!m_options.validArguments)
+    if (!m_options.validArguments || !readPreset(context.presetsDirectory(), m_options))
         return -3;
 
     qInfo() << "[CLI] Initial controls:" << m_controls.currentControls();
@@ -178,6 +180,14 @@ void CLIApplication::imageReadFinished() {
     m_engine.setInputImage(m_reader.imagedata());
     m_engine.setParams(m_controls.currentControls());
     m_engine.autoPilot(m_reader.imagedata(), {});
+}
+
+// Comes before autoPilotFinished, and while the analysis goes on with steps that hold no level.
+void CLIApplication::storeLevels(const QString &, const QVariantMap &problems) {
+    if (problems.contains(Keys::NoiseLevel))
+        m_controls.setNoiseLevel(problems.value(Keys::NoiseLevel).toInt());
+    if (problems.contains(Keys::BlurLevel))
+        m_controls.setBlurLevel(problems.value(Keys::BlurLevel).toInt());
 }
 
 void CLIApplication::autoPilotFinished(const QString &uid, const QVariantMap &settings) {

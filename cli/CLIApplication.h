@@ -32,7 +32,7 @@ public:
     /// Owns the process's application object; `argv` must outlive it.
     CLIApplication(int argc, char **argv);
 
-    /// Called once. Gives the process's exit code: -3 after a bad argument, -1 without a file to
+    /// Called once. Gives the process's exit code: -3 after a bad argument or preset, -1 without a file to
     /// process, 130 after Ctrl-C, 1 when files failed under --keep-going, otherwise 0.
     int run(const AppContext &context);
 
@@ -71,6 +71,7 @@ private:
     void connectAll();
     void waitForModels(const QString &modelDirectory);
     void startTracking(const AppContext &context);
+    void storeLevels(const QString &uid, const QVariantMap &problems);
     void processImage(const QVariantMap &input);
     void savedElsewhere(const QString &outputPath, const QString &writtenPath);
     void saveResult(const std::shared_ptr<ImageData> &image);

@@ -101,3 +101,10 @@ bool optionValues::tiffCompression(const QString &value, BatchOptions &options) 
     options.tiffCompression = *found;
     return true;
 }
+
+bool optionValues::presetName(const QString &value, BatchOptions &options) {
+    options.presetName = value;
+    if (value.isEmpty())
+        console::errLine(u"Invalid preset given: it has no name"_s);
+    return !value.isEmpty();
+}

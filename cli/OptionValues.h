@@ -12,5 +12,6 @@ bool jpegQuality(const QString &value, BatchOptions &options);
 bool pngCompression(const QString &value, BatchOptions &options);
 bool bitDepth(const QString &value, BatchOptions &options);
 bool tiffCompression(const QString &value, BatchOptions &options);
+bool presetName(const QString &value, BatchOptions &options);
 
 } // namespace optionValues

@@ -44,6 +44,7 @@ const QMap<QString, std::variant<Flag, ValueReader>> &optionTable() {
         value({u"compression"_s, u"c"_s}, optionValues::pngCompression);
         value({u"bit-depth"_s, u"d"_s}, optionValues::bitDepth);
         value({u"tiff-compression"_s, u"tc"_s}, optionValues::tiffCompression);
+        value({u"preset"_s}, optionValues::presetName);
         return t;
     }();
     return table;

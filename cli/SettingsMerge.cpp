@@ -30,9 +30,13 @@ SettingsMerge::SettingsMerge(TControls &controls, const BatchOptions &options, c
 void SettingsMerge::apply(const QVariantMap &autopilot) {
     if (m_options.overrideAutopilot)
         console::outLine(u"Overwriting Autopilot values"_s);
-    applyAutopilot(autopilot);
+    if (!hasPreset() || !m_options.overrideAutopilot)
+        applyAutopilot(autopilot);
+    if (hasPreset())
+        applyPreset();
     applyOverrides(autopilot);
     setOrder();
+    qInfo() << "[CLI] Current filter order:" << m_controls.filterOrder();
 }
 
 void SettingsMerge::initialize(const QString &category, const QVariantMap &settings) {
@@ -50,48 +54,80 @@ void SettingsMerge::applyAutopilot(const QVariantMap &autopilot) {
     }
 }
 
+void SettingsMerge::applyPreset() {
+    setOrder();
+    const BatchPreset &preset = m_options.preset;
+    const QVariantMap warning =
+        m_controls.applyPresetToImage(m_controls.currentImage(), preset.controls, preset.filterOrder, true);
+    if (!warning.isEmpty())
+        console::errLine(warning.value(u"title"_s).toString() + u": "_s +
+                         warning.value(u"message"_s).toString());
+    settleSize();
+}
+
+// A preset adds a second filter of a category that Autopilot has put on: overrides are for both.
+QStringList SettingsMerge::filtersOf(const QString &category) const {
+    const QVariantMap controls = m_controls.currentControls();
+    QStringList names;
+    for (const auto &[name, filter] : controls.asKeyValueRange()) {
+        if (filter.toMap().value(Keys::Category) == category)
+            names.append(name);
+    }
+    return names;
+}
+
 void SettingsMerge::applyOverrides(const QVariantMap &autopilot) {
     for (const QString &category : m_categories) {
         const QStringList texts = m_options.overrides.values(category);
         if (texts.isEmpty())
             continue;
-        initialize(category, autopilot.value(category).toMap());
-        if (m_options.overrideAutopilot)
-            m_controls.setParam(category, Keys::Enabled, true);
+        if (!hasPreset() || filtersOf(category).isEmpty())
+            initialize(category, autopilot.value(category).toMap());
         QList<Override> overrides;
         for (const QString &text : texts)
             overrides.append(parseOverride(text));
-        for (const Override &setting : std::as_const(overrides))
-            applyOverride(category, setting);
-        if (category == Categories::Enhance)
-            settleSize(overrides);
+        for (const QString &filterName : filtersOf(category)) {
+            if (m_options.overrideAutopilot)
+                m_controls.setParam(filterName, Keys::Enabled, true);
+            for (const Override &setting : std::as_const(overrides))
+                applyOverride(filterName, setting);
+        }
+        if (category == Categories::Enhance && asksForSize(overrides))
+            settleSize();
         report(category, overrides);
     }
 }
 
-void SettingsMerge::applyOverride(const QString &category, const Override &setting) {
+void SettingsMerge::applyOverride(const QString &filterName, const Override &setting) {
     const auto &[key, value] = setting;
-    console::outLine(u"Overwriting "_s + category + u' ' + key + u" to "_s + value);
-    qInfo() << "[CLI] Set" << category << key << "=" << value;
+    console::outLine(u"Overwriting "_s + filterName + u' ' + key + u" to "_s + value);
+    qInfo() << "[CLI] Set" << filterName << key << "=" << value;
     if (key == Keys::Model)
-        m_controls.setModel(category, value);
+        m_controls.setModel(filterName, value);
     else
-        m_controls.setParam(category, key, QVariant(value));
+        m_controls.setParam(filterName, key, QVariant(value));
 }
 
 QVariantMap SettingsMerge::filterOf(const QString &category) const {
     return m_controls.currentControls().value(category).toMap();
 }
 
-// To the engine, a scale that contradicts the width means that the picture is cropped, which a batch run
-// doesn't do: what Autopilot worked out for another size goes.
-void SettingsMerge::settleSize(const QList<Override> &overrides) {
-    const QString mode =
-        filterOf(Categories::Enhance).value(Keys::Params).toMap().value(Params::Mode).toString();
-    const bool isAsked = std::any_of(overrides.cbegin(), overrides.cend(), [&](const Override &setting) {
+bool SettingsMerge::asksForSize(const QList<Override> &overrides) const {
+    const QString mode = sizeMode();
+    return std::any_of(overrides.cbegin(), overrides.cend(), [&mode](const Override &setting) {
         return setting.first == Params::Mode || setting.first == mode;
     });
-    if (isAsked && (mode == Params::Width || mode == Params::Height))
+}
+
+QString SettingsMerge::sizeMode() const {
+    return filterOf(Categories::Enhance).value(Keys::Params).toMap().value(Params::Mode).toString();
+}
+
+// To the engine, a scale that contradicts the width means that the picture is cropped, which a batch run
+// doesn't do: what Autopilot worked out for another size goes.
+void SettingsMerge::settleSize() {
+    const QString mode = sizeMode();
+    if (mode == Params::Width || mode == Params::Height)
         m_controls.removeKeyFromControlParams(Categories::Enhance, Params::Scale);
 }
 
@@ -109,11 +145,10 @@ void SettingsMerge::report(const QString &category, const QList<Override> &overr
 
 void SettingsMerge::setOrder() {
     const QVariantMap present = m_controls.currentControls();
-    QStringList order;
+    QStringList order = hasPreset() ? m_controls.filterOrder() : QStringList();
     for (const QString &category : m_filterOrder) {
-        if (present.contains(category))
+        if (present.contains(category) && !order.contains(category))
             order.append(category);
     }
-    m_controls.setFilterOrder(order, QString());
-    qInfo() << "[CLI] Current filter order:" << m_controls.filterOrder();
+    m_controls.setFilterOrder(hasPreset() ? m_controls.normalisedOrder(order) : order, QString());
 }

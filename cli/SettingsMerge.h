@@ -7,9 +7,10 @@
 
 class TControls;
 
-/// Puts on the current image the filters that Autopilot enabled, then the user's overrides on top,
-/// and sets the order of processing. `autopilot` is Autopilot's answer: category to settings.
-/// Overrides that ask for what isn't there are reported with the names that exist; the run goes on.
+/// Puts on the current image the filters that Autopilot enabled, adds those of a preset, lays the user's
+/// overrides on top, and sets the order of processing. A preset with the override flag stands alone.
+/// `autopilot` is Autopilot's answer: category to settings. Overrides that ask for what isn't there are
+/// reported with the names that exist; the run goes on.
 class SettingsMerge {
 public:
     SettingsMerge(TControls &controls, const BatchOptions &options, const QStringList &filterOrder,
@@ -20,10 +21,15 @@ public:
 private:
     void initialize(const QString &category, const QVariantMap &settings);
     void applyAutopilot(const QVariantMap &autopilot);
+    void applyPreset();
     void applyOverrides(const QVariantMap &autopilot);
-    void applyOverride(const QString &category, const Override &setting);
+    void applyOverride(const QString &filterName, const Override &setting);
+    bool hasPreset() const { return !m_options.preset.filterOrder.isEmpty(); }
+    QStringList filtersOf(const QString &category) const;
     QVariantMap filterOf(const QString &category) const;
-    void settleSize(const QList<Override> &overrides);
+    bool asksForSize(const QList<Override> &overrides) const;
+    QString sizeMode() const;
+    void settleSize();
     void report(const QString &category, const QList<Override> &overrides);
     void setOrder();
 

@@ -16,6 +16,8 @@ struct TCategorySettings {
     TCategorySettings(const QString &filterCategory, const QString &filterModel,
                       const QVariantMap &filterParams, bool filterEnabled);
 
+    bool operator==(const TCategorySettings &) const = default;
+
     /// The five-key map `{ category, model, params, enabled, subjectSettings }`.
     QVariantMap toMap() const;
 

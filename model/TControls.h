@@ -1,10 +1,12 @@
 #pragma once
 
 #include "model/CategoryNames.h"
+#include "model/EditHistory.h"
 #include "model/EnhanceLimits.h"
 #include "model/OrderedSet.h"
 #include "model/TImageSettings.h"
 
+#include <QHash>
 #include <QObject>
 #include <QRectF>
 #include <QSizeF>
@@ -48,6 +50,8 @@ class TControls : public QObject {
     Q_PROPERTY(int ENHANCE_PIXEL_MAX READ enhMaxPx CONSTANT)
     Q_PROPERTY(QList<QVariantMap> autoPilotSuggestionOrder READ autoPilotSuggestionOrder WRITE
                    setAutoPilotSuggestionOrder NOTIFY autoPilotSuggestionOrderChanged)
+    Q_PROPERTY(bool canUndo READ canUndo NOTIFY editHistoryChanged)
+    Q_PROPERTY(bool canRedo READ canRedo NOTIFY editHistoryChanged)
 
 public:
     explicit TControls(QObject *parent = nullptr);
@@ -126,6 +130,37 @@ public:
     /// An empty path matches.
     Q_INVOKABLE bool doCurrentControlsMatchImage(const QString &imagePath) const;
 
+    // From a preset, or from a host
+    /// Adds a preset's filters to what an open image has, and gives a warning `{ title, message }` about what
+    /// could not be applied, or an empty map. Without `allowEmit` nothing fires; the caller propagates.
+    /// Filters that `controls` lacks or that have no model in the catalogue are passed over, and what the
+    /// catalogue doesn't allow is clamped or left out, with a line each in the log.
+    Q_INVOKABLE QVariantMap applyPresetToImage(const QString &imagePath, const QVariantMap &controls,
+                                               const QStringList &filterOrder, bool resizingSupported,
+                                               bool allowEmit = true);
+    /// The same check for the filters of a controls map that came from elsewhere; other entries stay.
+    Q_INVOKABLE QVariantMap boundedControls(const QVariantMap &controls) const;
+    /// RAW first, Enhance last, no name twice; the others keep their places.
+    Q_INVOKABLE QStringList normalisedOrder(const QStringList &order) const;
+
+    // Undo and redo of the current image: its filters, their order and its crop, but not what Autopilot
+    // answered. The caller says where a step ends; an image has a history once recordEdit or forgetEdits
+    // was called for it, and loses it when it is closed.
+    /// Makes a step of what changed since the last recorded state, if anything did, and clears redo. The
+    /// first call for an image takes its state as the start.
+    Q_INVOKABLE void recordEdit();
+    /// Takes the present state for the last recorded one, without a step: for what the program derives
+    /// itself.
+    Q_INVOKABLE void amendEdit();
+    /// Starts anew from the present state.
+    Q_INVOKABLE void forgetEdits();
+    /// These two record what is pending first. False when there is nothing to undo or redo.
+    Q_INVOKABLE bool undoEdit();
+    Q_INVOKABLE bool redoEdit();
+    /// About recorded steps; what is pending is not looked at.
+    bool canUndo() const;
+    bool canRedo() const;
+
     // Crop and resolution of the current image; they don't make a preview stale
     Q_INVOKABLE QRectF cropRoi() const; ///< fractions of the image
     Q_INVOKABLE double rotation() const;
@@ -182,6 +217,10 @@ public:
     Q_INVOKABLE void initializeSubject(const QString &category);
     Q_INVOKABLE bool isSubjectModified(const QString &imageUrl) const;
 
+    // Measured levels of the current image. QML has plain numbers; one that is no level is unknown.
+    Q_INVOKABLE void setNoiseLevel(int level);
+    Q_INVOKABLE void setBlurLevel(int level);
+
 public Q_SLOTS:
     void setNoiseLevel(Autopilot::Level level);
     void setBlurLevel(Autopilot::Level level);
@@ -210,6 +249,7 @@ Q_SIGNALS:
     void autoPilotCalculated(const QString &path);
     void autoPilotApplied(const QString &path);
     void autoPilotSuggestionOrderChanged();
+    void editHistoryChanged();
 
 private:
     QString pathAt(qint64 index) const;
@@ -229,6 +269,14 @@ private:
     void emitParamSignals(bool enabledToo);
     void forget(const QString &path, const QStringList &recentFiles);
     void storeInCurrentImageData(const QVariantMap &entries);
+    /// A disabled filter of the category with its first model and that one's defaults.
+    TCategorySettings startOf(const QString &category) const;
+    void addFromPreset(TImageSettings &settings, const QString &filterName, const QString &category,
+                       const QVariantMap &filter);
+    QVariantMap bounded(const QVariantMap &filter, const QString &ownModel = QString()) const;
+    EditState currentEdits() const;
+    bool moveThroughEdits(std::optional<EditState> (EditHistory::*move)());
+    void restoreEdits(const EditState &state);
 
     QVariantMap m_modelParamInfo;
     QString m_defaultSubjectType;
@@ -238,7 +286,8 @@ private:
     OrderedSet<int> m_selectedImages;
     QMap<QString, TImageSettings> m_imageSettings;
     QMap<QString, QVariantMap> m_imageData;
-    QStringList m_viewOrder; ///< the most recently viewed last
+    QHash<QString, EditHistory> m_editHistories; ///< by path; of images that are open
+    QStringList m_viewOrder;                     ///< the most recently viewed last
     qint64 m_currentIndex = -1;
     QString m_currentCategory;
     QVariantList m_currentInpaintStrokes;

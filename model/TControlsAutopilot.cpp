@@ -1,6 +1,15 @@
 #include "contracts/FilterNames.h"
 #include "model/TControls.h"
 
+namespace {
+
+Autopilot::Level levelOf(int number) {
+    const bool known = number >= int(Autopilot::Level::None) && number <= int(Autopilot::Level::Severe);
+    return known ? Autopilot::Level(number) : Autopilot::Level::Unknown;
+}
+
+} // namespace
+
 void TControls::landAutopilot(const QVariantMap &answer, bool recommendFilters, bool addFilters) {
     setAutoPilotStatus(TImageSettings::On);
     setAutopilotSettings(answer);
@@ -97,6 +106,14 @@ void TControls::markInitialFiltersApplied() {
 
 void TControls::resetManualAPCheck() {
     currentSettings().applyAutopilotOnceCalculated = false;
+}
+
+void TControls::setNoiseLevel(int level) {
+    setNoiseLevel(levelOf(level));
+}
+
+void TControls::setBlurLevel(int level) {
+    setBlurLevel(levelOf(level));
 }
 
 void TControls::setNoiseLevel(Autopilot::Level level) {

@@ -61,10 +61,13 @@ bool TControls::removeFilterControl(const QString &category) {
     return removed;
 }
 
-void TControls::initializeFilter(const QString &filterName, const QString &category) {
+TCategorySettings TControls::startOf(const QString &category) const {
     const QString model = m_modelNames.value(category).toList().value(0).toString();
-    const QVariantMap params = m_defaultParams.value(category).toMap().value(model).toMap();
-    currentSettings().initializeFilter(filterName, TCategorySettings(category, model, params, false));
+    return {category, model, m_defaultParams.value(category).toMap().value(model).toMap(), false};
+}
+
+void TControls::initializeFilter(const QString &filterName, const QString &category) {
+    currentSettings().initializeFilter(filterName, startOf(category));
 }
 
 QStringList TControls::filterOrder() const {

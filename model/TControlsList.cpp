@@ -67,6 +67,7 @@ void TControls::setCurrentIndex(qint64 index, bool forceUpdate) {
     const QString path = pathAt(index);
     Q_EMIT currentIndexChanged();
     emitCurrentImageSignals();
+    Q_EMIT editHistoryChanged();
     if (index == -1)
         return;
     m_viewOrder.removeAll(path);
@@ -83,6 +84,7 @@ void TControls::forget(const QString &path, const QStringList &recent) {
     }
     m_imageSettings.remove(path);
     m_imageData.remove(path);
+    m_editHistories.remove(path);
 }
 
 void TControls::closeImage(qint64 index) {
@@ -133,6 +135,7 @@ void TControls::reset() {
         Q_EMIT imagesClosed(total);
     }
     m_imageSettings.clear();
+    m_editHistories.clear();
     setCurrentIndex(-1);
 }
 

@@ -4,9 +4,11 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonParseError>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 
@@ -35,13 +37,43 @@ QString translated(const QString &name) {
     return match.hasMatch() ? categoryOf(match.captured(1)) + match.captured(2) : name;
 }
 
-QStringList sequenceOf(QString text) {
-    static const QRegularExpression brackets(u"[\\[\\]']"_s);
-    QStringList parts = text.remove(brackets).split(u',');
-    for (QString &part : parts)
-        part = translated(part.trimmed());
-    return parts;
-}
+/// A sequence of the table in the program's names. Rows that share all but the last filter stand together,
+/// and a table has few names and very many rows, so that both are worked out once.
+class SequenceReader {
+public:
+    /// False for a sequence with nothing before the last filter.
+    bool read(QString text) {
+        text.removeIf([](QChar c) { return c == u'[' || c == u']' || c == u'\''; });
+        const qsizetype last = text.lastIndexOf(u',');
+        if (last < 0)
+            return false;
+        m_next = category(text.sliced(last + 1).trimmed());
+        text.truncate(last);
+        if (text != m_before) {
+            QStringList parts = text.split(u',');
+            for (QString &part : parts)
+                part = category(part.trimmed());
+            m_key = parts.join(u',');
+            m_before = text;
+        }
+        return true;
+    }
+    const QString &key() const { return m_key; }
+    const QString &next() const { return m_next; }
+
+private:
+    const QString &category(const QString &name) {
+        auto known = m_known.constFind(name);
+        if (known == m_known.cend())
+            known = m_known.insert(name, translated(name));
+        return *known;
+    }
+
+    QHash<QString, QString> m_known;
+    QString m_before;
+    QString m_key;
+    QString m_next;
+};
 
 } // namespace
 
@@ -51,14 +83,15 @@ void TFilterGenerator::load(const QString &filename) {
         qCritical() << "Could not open file:" << filename;
         return;
     }
-    const QJsonArray rows = QJsonDocument::fromJson(file.readAll()).array();
+    QJsonParseError damage;
+    const QJsonArray rows = QJsonDocument::fromJson(file.readAll(), &damage).array();
+    if (rows.isEmpty())
+        qWarning() << "The table of filters holds nothing:" << filename << damage.errorString();
+    SequenceReader sequence;
     for (const auto &element : rows) {
         const QJsonObject row = element.toObject();
-        QStringList parts = sequenceOf(row.value("filters_combined"_L1).toString());
-        if (parts.size() < 2)
-            continue;
-        const QString next = parts.takeLast();
-        m_filterSequences[parts.join(u',')].append({next, row.value("count"_L1).toDouble()});
+        if (sequence.read(row.value("filters_combined"_L1).toString()))
+            m_filterSequences[sequence.key()].append({sequence.next(), row.value("count"_L1).toDouble()});
     }
     file.close();
     qInfo() << "Finished loading JSON file:" << filename;

@@ -1,18 +1,14 @@
 #include "presets/TPresetsManager.h"
 
+#include "presets/PresetFile.h"
+
 #include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-namespace {
-
-// A preset is a few kilobytes; more is not one of ours.
-constexpr qint64 MaxPresetBytes = 16 * 1024 * 1024;
-
-} // namespace
+#include <QSaveFile>
 
 QString TPresetsManager::pathOf(const QString &name) const {
     return m_presetsDirectory + QDir::separator() + name + QStringLiteral(".json");
@@ -34,28 +30,29 @@ void TPresetsManager::setPresetsDirectory(const QString &directory) {
 
 void TPresetsManager::savePreset(const QVariantMap &preset) {
     const QString name = preset.value(QStringLiteral("name")).toString();
-    QFile file(pathOf(name));
-    if (file.open(QIODevice::WriteOnly))
+    QSaveFile file(pathOf(name)); // a full disk leaves the preset that was there
+    if (file.open(QIODevice::WriteOnly)) {
         file.write(QJsonDocument(QJsonObject::fromVariantMap(preset)).toJson(QJsonDocument::Compact));
+        file.commit();
+    }
     m_presets.insert(name);
     Q_EMIT presetsChanged();
 }
 
 QVariantMap TPresetsManager::getPreset(const QString &preset) const {
-    QFile file(pathOf(preset));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qCritical() << "Could not open preset file" << file.fileName();
+    PresetFile file = readPresetFile(pathOf(preset));
+    switch (file.fault) {
+    case PresetFault::CannotOpen:
+        qCritical() << "Could not open preset file" << pathOf(preset);
         return {};
-    }
-    const QString text = QString::fromUtf8(file.read(MaxPresetBytes));
-    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
-    if (document.isNull() || document.isEmpty() || !document.isObject()) {
+    case PresetFault::NoObject:
         qCritical() << "JSON document is invalid";
         return {};
+    case PresetFault::None:
+        break;
     }
-    QVariantMap map = document.object().toVariantMap();
-    map.insert(QStringLiteral("name"), preset);
-    return map;
+    file.preset.insert(QStringLiteral("name"), preset);
+    return file.preset;
 }
 
 void TPresetsManager::deletePreset(const QString &preset) {

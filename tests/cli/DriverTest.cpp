@@ -162,6 +162,57 @@ TEST_F(Driver, ShowsSettingsWithoutProcessing) {
     EXPECT_TRUE(m_capture.out().ends_with("\n}\n"));
 }
 
+TEST_F(Driver, ShowsTheMeasuredLevels) {
+    m_engine->advice.problems = {{u"noise_level"_s, 3}, {u"blur_level"_s, 1}};
+    EXPECT_EQ(run({picture(u"a.jpg"_s), u"--skipProcessing"_s, u"--showSettings"_s}), 0);
+    for (const char *line : {"\"noise_level\": 3,", "\"blur_level\": 1,"})
+        EXPECT_NE(m_capture.out().find(line), std::string::npos) << line;
+}
+
+TEST_F(Driver, TakesAPreset) {
+    const auto put = [this](const QString &name, const QByteArray &content) {
+        make(name);
+        QFile file(at(name));
+        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(content) == content.size());
+        return at(name);
+    };
+    const QByteArray good =
+        R"({"filterOrder": ["S"], "controls": {"S": {"category": "Sharpen", "params": {"p": 0.5}}}})";
+    put(u"Presets/Mine.json"_s, good);
+    put(u"Presets/Torn.json"_s, good.left(40));
+    put(u"Presets/Empty.json"_s, R"({"name": "Empty"})");
+    const QString elsewhere = put(u"else/Other.json"_s, good);
+    const QString path = picture(u"a.jpg"_s);
+    const struct {
+        QString name;
+        int code;
+        const char *said;
+    } rows[] = {
+        {u"Mine"_s, 0, ""},
+        {elsewhere, 0, ""},
+        {u"Gone"_s, -3,
+         "Invalid preset given: Gone\nExpected one of Empty, Mine, Torn, or the path of a .json file\n"},
+        {u"Torn"_s, -3, "Invalid preset given: Torn\nThe file is damaged or holds no enhancement: "},
+        {u"Empty"_s, -3, "Invalid preset given: Empty\nThe file is damaged or holds no enhancement: "},
+        {u"else/gone.json"_s, -3, "Invalid preset given: else/gone.json\n"},
+    };
+    for (const auto &[name, code, said] : rows) {
+        SCOPED_TRACE(name.toStdString());
+        const Capture capture;
+        m_engineToGive = std::make_unique<FakeEngine>();
+        m_engineToGive->models = {{u"Sharpen"_s, QVariantMap{{u"Lens"_s, QVariantMap()}}}};
+        QStringList orders;
+        m_engineToGive->onProcess = [&](const ProcRequest &request, const RunControl &) -> ProcResult {
+            orders.append(request.filterOrder);
+            return {.image = std::const_pointer_cast<ImageData>(request.input.image),
+                    .region = request.region};
+        };
+        EXPECT_EQ(run({path, u"--preset"_s, name}), code);
+        EXPECT_TRUE(capture.err().starts_with(said)) << capture.err();
+        EXPECT_EQ(orders, code == 0 ? QStringList{u"Sharpen"_s} : QStringList());
+    }
+}
+
 TEST_F(Driver, WaitsForAFullWriter) {
     m_files->writeHold.close();
     size_t readMeanwhile = 0;

@@ -122,6 +122,37 @@ TEST_F(Merge, NothingIsSwallowed) {
     }
 }
 
+/// What Autopilot put on, then the preset's filters, and what was said on the command line over both.
+TEST_F(Merge, APresetOnTop) {
+    const auto filter = [](const QString &category, const QVariantMap &params) {
+        return QVariantMap{{u"category"_s, category}, {u"enabled"_s, true}, {u"params"_s, params}};
+    };
+    m_options.preset = {{{u"Enhance"_s, filter(u"Enhance"_s, {{u"mode"_s, u"width"_s}, {u"width"_s, 900}})},
+                         {u"Denoise"_s, filter(u"Denoise"_s, {{u"strength"_s, 0.9}})}},
+                        {u"Enhance"_s, u"Denoise"_s}};
+    override(u"RAW"_s, {});
+    override(u"Denoise"_s, {u"strength=0.3"_s});
+    QVariantMap noUpscale = advice;
+    noUpscale.remove(u"Enhance"_s);
+    apply(noUpscale);
+    EXPECT_EQ(m_controls.filterOrder(), (QStringList{u"RAW"_s, u"Denoise"_s, u"Denoise2"_s, u"Enhance"_s}));
+    EXPECT_EQ(param(u"Denoise"_s, u"strength"_s), u"0.3"_s);
+    EXPECT_EQ(param(u"Denoise2"_s, u"strength"_s), u"0.3"_s);
+    EXPECT_EQ(param(u"Enhance"_s, u"width"_s), 900);
+    EXPECT_EQ(m_capture.err(), "");
+}
+
+TEST_F(Merge, APresetAlone) {
+    const QVariantMap denoise = {{u"category"_s, u"Denoise"_s}, {u"model"_s, u"Fine"_s}};
+    const QVariantMap enhance = {{u"category"_s, u"Enhance"_s}};
+    m_options.preset = {{{u"Denoise"_s, denoise}, {u"Enhance"_s, enhance}}, {u"Denoise"_s}};
+    m_options.overrideAutopilot = true;
+    apply(advice);
+    EXPECT_EQ(m_controls.filterOrder(), QStringList{u"Denoise"_s});
+    EXPECT_EQ(filter(u"Denoise"_s).value(u"model"_s), u"Fine"_s);
+    EXPECT_TRUE(filter(u"Enhance"_s).isEmpty());
+}
+
 /// The size that was asked for isn't contradicted by what Autopilot worked out for another.
 TEST_F(Merge, SizeThatWasAskedFor) {
     override(u"Enhance"_s, {u"width=400"_s, u"mode=width"_s});

@@ -26,6 +26,7 @@ std::string describe(const BatchOptions &o) {
     add(o.pngCompression != 2, u"c%1"_s.arg(o.pngCompression));
     add(o.tiffBitDepth != 16, u"d%1"_s.arg(o.tiffBitDepth));
     add(o.tiffCompression != TiffCompression::None, u"tc%1"_s.arg(int(o.tiffCompression)));
+    add(!o.presetName.isEmpty(), u"preset:"_s + o.presetName);
     for (const QString &category : o.overrides.uniqueKeys())
         words.append(category + u'[' + o.overrides.values(category).join(u' ') + u']');
     return words.join(u' ').toStdString();
@@ -91,6 +92,8 @@ TEST(CommandLine, IsRead) {
         Row("-d 12", "bad d12", "Invalid bit depth given\nExpected either 8 or 16, but got 12\n"),
         Row("-tc rar", "bad",
             "Invalid TIFF compression given: rar\nExpected one of \"none\", \"lzw\", or \"zip\"\n"),
+        Row("--preset Portraits", "preset:Portraits"), Row("--Preset a/b.json", "preset:a/b.json"),
+        Row("--preset", "bad", "Missing value after argument: --preset\n"),
         Row("--output", "bad", "Missing value after argument: --output\n"),
         Row("--overwrite -q", "bad overwrite", "Missing value after argument: -q\n"),
         Row("gone --bogus", "", "[CLI] Invalid file or directory path:gone\n"),

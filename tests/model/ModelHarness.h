@@ -31,7 +31,7 @@ QStringList criticalMessages(const std::function<void()> &run);
 inline const std::string WholeSet =
     "currentControls subjectSettings currentImageData currentImage currentCategory currentModel currentGui "
     "hasS3UploadableImages isRaw areFiltersEnabled";
-inline const std::string Switch = "currentIndex " + WholeSet;
+inline const std::string Switch = "currentIndex " + WholeSet + " editHistory";
 inline const std::string Propagated = "currentControls hasS3UploadableImages areFiltersEnabled";
 
 QVariantMap json(const char *text);

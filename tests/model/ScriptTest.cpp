@@ -40,6 +40,15 @@ TEST(Scripts, UseTheModelByItsNames) {
                 currentIndex = 1
                 results.push(isRaw && indexOf("/b.nef") === 1 && size() === 2)
                 results.push(ENHANCE_SCALE_MIN === 0.2 && ENHANCE_PIXEL_MAX === 32000 && enhMaxPx() === 32000)
+                const warning = applyPresetToImage("/gone.jpg", currentControls, ["Denoise"], true)
+                results.push(warning.title === "Could not apply preset")
+                setNoiseLevel(3)
+                setBlurLevel(99)
+                results.push(currentControls.noise_level === 3 && currentControls.blur_level === -1)
+                forgetEdits()
+                setParam("Denoise", "mode", "width")
+                recordEdit()
+                results.push(canUndo && undoEdit() && canRedo && !canUndo)
                 applyAutopilotToImage()
                 results.push(isModifiedFromAutopilot("/a.jpg") && !isModifiedFromAutopilot("Denoise", "Denoise"))
             }
@@ -48,7 +57,7 @@ TEST(Scripts, UseTheModelByItsNames) {
     const std::unique_ptr<QObject> object(component.create());
     ASSERT_TRUE(object) << component.errorString().toStdString();
     const auto results = object->property("results").value<QList<bool>>();
-    EXPECT_EQ(results, QList<bool>(9, true));
+    EXPECT_EQ(results, QList<bool>(12, true));
     EXPECT_EQ(object->property("opened").toInt(), 2);
     EXPECT_EQ(qobject_cast<TControls *>(object.get())->selectedImages(), QList<int>({1, 0}));
 }

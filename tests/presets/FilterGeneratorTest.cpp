@@ -2,9 +2,12 @@
 
 #include <QFile>
 #include <QMap>
+#include <QSet>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -84,11 +87,81 @@ TEST_F(Recommender, BrokenOrMissingTablesSuggestNothing) {
     EXPECT_EQ(m_generator.suggestNextFilter({u"Denoise-All"_s}), QString());
 }
 
-TEST_F(Recommender, InstalledTableKnowsTheUsualFirstSteps) {
+/// What the card asks about: filters of a category together, a subject once, both sides of one as three.
+QStringList collapsed(const QStringList &filters) {
+    QStringList categories;
+    QMap<QString, QStringList> subjects;
+    for (const QString &filter : filters) {
+        const QString category = filter.section(u'-', 0, 0);
+        if (!subjects.contains(category))
+            categories.append(category);
+        if (const QString subject = filter.section(u'-', 1); !subjects[category].contains(subject))
+            subjects[category].append(subject);
+    }
+    QStringList result;
+    for (const QString &category : categories) {
+        QStringList group = subjects.value(category);
+        if (group.contains(u"Subject"_s) && group.contains(u"Background"_s))
+            group = {u"Subject"_s, u"Background"_s, u"All"_s};
+        for (const QString &subject : group)
+            result.append(category + u'-' + subject);
+    }
+    return result;
+}
+
+// Walks every stack of up to four filters: from none, from what Autopilot puts on, and from what a person
+// chose subjects for, each followed by whatever can be added by hand or is suggested.
+TEST_F(Recommender, TheInstalledTableIsNeverAtALoss) {
     m_generator.load(QStringLiteral(ORVANE_FILTER_DATA "/likely_f_sel_combs.json"));
-    EXPECT_FALSE(m_generator.suggestNextFilter({}).isEmpty());
-    for (const QString &first : {u"Denoise-All"_s, u"Sharpen-Subject"_s, u"Exposure Adjust-All"_s})
-        EXPECT_FALSE(m_generator.suggestNextFilter({first}).isEmpty()) << first.toStdString();
+    EXPECT_EQ(m_generator.suggestNextFilter({}), u"Denoise-All"_s);
+    const QStringList selective = {u"Exposure Adjust"_s, u"White Balance Adjust"_s, u"Denoise"_s,
+                                   u"Sharpen"_s};
+    const QStringList whole = {u"Face Recovery-"_s, u"Text Recovery-"_s, u"Inpaint-"_s};
+    const QStringList sharpenSubjects = {u"All"_s, u"Subject"_s,  u"Background"_s, u"Landscape"_s,
+                                         u"Sky"_s, u"Portrait"_s, u"none"_s};
+    // A picture that is large, without faces, from a camera's raw file.
+    const QStringList notToBeHad = {u"Enhance-"_s, u"Face Recovery-"_s, u"Denoise-All"_s};
+    QSet<QString> seen;
+    int without = 0;
+    const std::function<void(const QStringList &, const QString &, int)> walk =
+        [&](const QStringList &filters, const QString &sharpen, int more) {
+            const QStringList asked = collapsed(filters);
+            const QString key = asked.join(u',');
+            if (!asked.isEmpty() && !seen.contains(key)) {
+                seen.insert(key);
+                const QString suggested = m_generator.suggestNextFilter(asked, notToBeHad);
+                if (suggested.isEmpty() || !collapsed(asked + QStringList(suggested)).contains(suggested))
+                    ADD_FAILURE_AT(__FILE__, __LINE__) << key.toStdString() << " number " << ++without;
+            }
+            if (more == 0 || without > 20)
+                return;
+            for (const QString &category : selective)
+                walk(filters + QStringList(category + (category == u"Sharpen"_s ? sharpen : u"-All"_s)),
+                     sharpen, more - 1);
+            for (const QString &filter : whole)
+                walk(filters + QStringList(filter), sharpen, more - 1);
+        };
+    // Bit by bit, what Autopilot put on: a filter of its own has no subject.
+    for (int own = 0; own < 16; ++own) {
+        QStringList filters;
+        for (int i = 0; i < 4; ++i) {
+            if (own & (1 << i))
+                filters.append(selective.at(i) + u'-');
+        }
+        for (const QString &subject : sharpenSubjects)
+            walk(filters, u'-' + subject, 4 - int(filters.size()));
+    }
+    QStringList chosen = whole;
+    for (const QString &category : selective) {
+        for (const QString &subject :
+             {u"All"_s, u"Subject"_s, u"Background"_s, u"Landscape"_s, u"Sky"_s, u"none"_s, QString()})
+            chosen.append(category + u'-' + subject);
+    }
+    for (const QString &first : std::as_const(chosen)) {
+        for (const QString &second : std::as_const(chosen))
+            walk({first, second}, {}, 0);
+    }
+    EXPECT_GT(seen.size(), 5000);
 }
 
 } // namespace
