@@ -1,6 +1,8 @@
 list(APPEND STUDIO_FILES
   utils/filterStack.mjs
   utils/saveButton.mjs
+  utils/filterModels.mjs
+  utils/percent.mjs
   utils/support.mjs
   utils/viewport.mjs
   utils/writerOptions.mjs

@@ -1,2 +1,12 @@
 list(APPEND STUDIO_QML
+  views/rightPanel/filterControls/DenoiseFilterControl.qml
+  views/rightPanel/filterControls/DismissibleNote.qml
+  views/rightPanel/filterControls/ExpoFilterControl.qml
+  views/rightPanel/filterControls/FilterControl.qml
+  views/rightPanel/filterControls/FilterRecord.qml
+  views/rightPanel/filterControls/FilterSlider.qml
+  views/rightPanel/filterControls/ModelSelector.qml
+  views/rightPanel/filterControls/RAWFilterControl.qml
+  views/rightPanel/filterControls/SharpenFilterControl.qml
+  views/rightPanel/filterControls/WBFilterControl.qml
 )
