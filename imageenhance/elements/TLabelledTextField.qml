@@ -103,7 +103,7 @@ PbBox {
         TUnitSelector {
             unit: _top.unit
             units: _private.units
-            Accessible.name: qsTr("Unit")
+            Accessible.name: qsTr("%1, unit").arg(_top.accessibleName)
             onChosen: index => _top.updateResolutionUnit([TImageSettings.Pixels, TImageSettings.Inches, TImageSettings.Centimeters][index])
         }
     }

@@ -91,10 +91,11 @@ QtObject {
 
     // Writes the size. `manual` is a change by the user: the next preview run is skipped once and asked for again.
     function update(manual: bool): void {
-        // A write to a filter that has just been removed would bring it back without its category.
-        const present = controls.currentControls[filterName]?.params;
         const next = Limits.paramsOf(_private.current);
-        if (!present || !Limits.differs(present, next))
+        if (!Limits.differs(params, next))
+            return;
+        // A write to a filter that has just been removed would bring it back without its category.
+        if (!controls.currentControls[filterName])
             return;
         if (!manual)
             derivedChangeBegins();
