@@ -4,6 +4,7 @@ list(APPEND STUDIO_FILES
   utils/filterModels.mjs
   utils/percent.mjs
   utils/support.mjs
+  utils/upscaleLimits.mjs
   utils/viewport.mjs
   utils/writerOptions.mjs
 )

@@ -1,0 +1,63 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import PebbleUI
+import TControls
+import imageenhance
+import "../../../utils/support.mjs" as Support
+
+// Says which enhancements Autopilot left out, because upscaling does their work.
+ColumnLayout {
+    id: _top
+
+    required property TControls controls
+    required property ResolutionState resolution
+
+    spacing: PebbleStyle.size.spacing
+    visible: _sharpen.visible || _denoise.visible
+
+    LinkedNote {
+        id: _sharpen
+        visible: _private.leftOut(_top.controls.categories.sharpen)
+        note: qsTr("Deactivating Sharpen because this filter can handle moderate blur.")
+    }
+    LinkedNote {
+        id: _denoise
+        visible: _private.leftOut(_top.controls.categories.denoise) || _private.leftOut(_top.controls.categories.raw)
+        note: qsTr("Deactivating Denoise because this filter can handle moderate noise.")
+    }
+
+    component LinkedNote: PbInfoTipBox {
+        id: _box
+
+        required property string note
+
+        textFormat: Text.StyledText
+        text: qsTr("%1 <a href=\"%2\">Learn more</a>").arg(note).arg(Support.page("upscale"))
+        activeFocusOnTab: true
+        Layout.fillWidth: true
+        Accessible.name: note
+        Accessible.description: qsTr("Learn more")
+        Accessible.focusable: true
+        Accessible.onPressAction: _private.open()
+        onLinkActivated: _private.open()
+        onActiveFocusChanged: PbFocusRings.of(_box, _box, radius).always = true
+        Keys.onReturnPressed: _private.open()
+        Keys.onEnterPressed: _private.open()
+    }
+
+    QtObject {
+        id: _private
+
+        function leftOut(category: string): bool {
+            const all = _top.resolution.allControls;
+            if (!all.autoPilotSettings?.[category]?.params?.deselectedByUpscaling)
+                return false;
+            return !Object.values(all).some(filter => filter?.category === category && filter.enabled);
+        }
+
+        function open(): void {
+            Qt.openUrlExternally(Support.page("upscale"));
+        }
+    }
+}

@@ -1,0 +1,7 @@
+import PebbleUI
+
+// A small toggle that stands for one scale.
+PbGridOption {
+    padding: PebbleStyle.size.spacingSmall
+    implicitHeight: PebbleStyle.size.fieldHeight
+}

@@ -1,0 +1,86 @@
+import QtQml
+import TControls
+import imageenhance
+
+// The models of Upscale that the catalogue has, the one in use, and what Autopilot says about both.
+QtObject {
+    id: _top
+
+    required property TControls controls
+    required property string filterName
+    required property string parentCategory
+    required property ResolutionState resolution
+
+    // `{ text, value }` each
+    readonly property var offered: {
+        const names = Array.from(controls.modelNames[parentCategory] ?? []);
+        return _all.filter(model => names.includes(model.value));
+    }
+    readonly property int current: offered.findIndex(model => model.value === resolution.model)
+    readonly property bool fixesCompression: ["Standard", "High Fidelity", "Standard V2", "High Fidelity V2"].includes(resolution.model)
+    readonly property bool usesNeuralEngine: ["Standard", "High Fidelity"].includes(resolution.model)
+
+    // Null without a suggestion.
+    readonly property var autoModel: resolution.autoFilter.enabled ? resolution.autoFilter.model ?? null : null
+
+    readonly property var _all: [
+        {
+            text: qsTr("Standard (v2)"),
+            value: "Standard V2"
+        },
+        {
+            text: qsTr("High fidelity (v2)"),
+            value: "High Fidelity V2"
+        },
+        {
+            text: qsTr("Graphics"),
+            value: "CGI"
+        },
+        {
+            text: qsTr("Low resolution"),
+            value: "Low Resolution"
+        },
+        {
+            text: qsTr("Standard (v1)"),
+            value: "Standard"
+        },
+        {
+            text: qsTr("High fidelity (v1)"),
+            value: "High Fidelity"
+        }
+    ]
+
+    // From 1 to 100.
+    function percent(param: string): int {
+        return Math.round(_clamped(resolution.params[param] ?? 0) * 100);
+    }
+
+    // -1 when Autopilot has no value.
+    function suggested(param: string): int {
+        const value = resolution.autoFilter.params?.[param];
+        return value === undefined ? -1 : Math.round(_clamped(value) * 100);
+    }
+
+    // What a slider marks: the suggestion where it is one for the model in use, else -1.
+    function marked(param: string): int {
+        return autoModel === resolution.model ? suggested(param) : -1;
+    }
+
+    // Takes a slider's value, unless the model holds it already: a slider shows what it holds as whole percents.
+    function setPercent(param: string, percent: int): void {
+        if (resolution.filter && Math.abs(_clamped(resolution.params[param] ?? 0) - percent / 100) > 0.005)
+            controls.setParam(filterName, param, percent / 100);
+    }
+
+    // `strengths` are the present values of the sliders, which the new model takes over.
+    function choose(model: string, strengths: var): void {
+        if (!resolution.filter || model === resolution.model)
+            return;
+        controls.setModel(filterName, model);
+        controls.setParams(filterName, strengths);
+    }
+
+    function _clamped(fraction: real): real {
+        return Math.min(Math.max(fraction, 0.01), 1);
+    }
+}
