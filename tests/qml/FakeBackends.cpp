@@ -71,9 +71,12 @@ void FakeBackends::advise(const QVariantMap &settings) {
 void FakeBackends::scriptAnalyses(const QStringList &steps, const QVariantMap &problems) {
     s_steps = 0;
     s_engine->advice.problems = problems;
+    s_engine->onAnalyse = nullptr;
+    if (steps.empty())
+        return;
     s_engine->onAnalyse = [steps, advice = s_engine->advice](const EngineInput &, const AutopilotOptions &,
                                                              const RunControl &control) -> AutopilotAnswer {
-        for (qsizetype i = 0; i <= steps.size() && !steps.empty(); ++i) {
+        for (qsizetype i = 0; i <= steps.size(); ++i) {
             while (s_steps <= i && !control.stopped())
                 std::this_thread::sleep_for(std::chrono::milliseconds(1));
             if (i < steps.size())
