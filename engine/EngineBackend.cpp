@@ -92,6 +92,7 @@ AutopilotAnswer EngineBackend::analyse(const EngineInput &input, const Autopilot
             answer.error = QCoreApplication::translate("Engine", "There is no picture to analyse");
             return answer;
         }
+        control.report(0, QStringLiteral("params"));
         const auto statistics = m_facts.of(input.uid, input.image, control.stop);
         if (statistics)
             return analyseImage(input, *statistics, *models(control.stop), options, control);

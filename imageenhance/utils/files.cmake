@@ -1,4 +1,5 @@
 list(APPEND STUDIO_FILES
+  utils/autopilotSteps.mjs
   utils/filterStack.mjs
   utils/saveButton.mjs
   utils/filterModels.mjs

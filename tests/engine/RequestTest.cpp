@@ -92,3 +92,14 @@ TEST(Requests, NamesOrderAndSubjects) {
     ASSERT_TRUE(engine.run(request).image);
     EXPECT_EQ(log.count(u"whole picture"_s), 1);
 }
+
+/// The window shows these while they go on: the measuring takes the time, and is not over when it begins.
+TEST(Requests, AnalysisSaysWhatItIsAt) {
+    QStringList stages;
+    RunControl control;
+    control.progress = [&stages](double, const QString &stage) { stages.append(stage); };
+    Engine engine;
+    const ProcRequest request = Engine::request(Pictures::scene(60, 40));
+    EXPECT_FALSE(engine.backend->analyse(request.input, {}, control).problems.empty());
+    EXPECT_EQ(stages, QStringList({u"params"_s, u"final"_s, u"done"_s}));
+}

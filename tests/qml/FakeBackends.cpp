@@ -9,6 +9,7 @@ namespace {
 FakeEngine *s_engine = nullptr; // owned by its controller
 std::shared_ptr<FakeFiles> s_files;
 Hold s_runs;
+std::atomic<int> s_steps = 0; // that an analysis may report
 
 FakeEngine::Process process(double progress, const QString &stage, const QString &error) {
     return [=](const ProcRequest &request, const RunControl &control) -> ProcResult {
@@ -65,6 +66,28 @@ void FakeBackends::failWriting(const QString &path, const QString &why) {
 
 void FakeBackends::advise(const QVariantMap &settings) {
     s_engine->advice = {.settings = settings};
+}
+
+void FakeBackends::scriptAnalyses(const QStringList &steps, const QVariantMap &problems) {
+    s_steps = 0;
+    s_engine->advice.problems = problems;
+    s_engine->onAnalyse = nullptr;
+    if (steps.empty())
+        return;
+    s_engine->onAnalyse = [steps, advice = s_engine->advice](const EngineInput &, const AutopilotOptions &,
+                                                             const RunControl &control) -> AutopilotAnswer {
+        for (qsizetype i = 0; i <= steps.size(); ++i) {
+            while (s_steps <= i && !control.stopped())
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            if (i < steps.size())
+                control.report(0, steps[i]);
+        }
+        return control.stopped() ? AutopilotAnswer{.cancelled = true} : advice;
+    };
+}
+
+void FakeBackends::allowSteps(int count) {
+    s_steps = count;
 }
 
 void FakeBackends::scriptRuns(double progress, const QString &stage, const QString &error) {

@@ -59,6 +59,10 @@ public:
     Q_INVOKABLE void failWriting(const QString &path, const QString &why);
     /// The answer to analyses from now on.
     Q_INVOKABLE void advise(const QVariantMap &settings);
+    /// Analyses from now on report these steps, each when allowSteps() has come to its place in the list, and
+    /// find these problems. No steps: they answer at once.
+    Q_INVOKABLE void scriptAnalyses(const QStringList &steps, const QVariantMap &problems);
+    Q_INVOKABLE void allowSteps(int count);
     /// Runs from now on tell this progress (0 to 1) and stage, and fail if there is an error.
     Q_INVOKABLE void scriptRuns(double progress, const QString &stage, const QString &error);
 

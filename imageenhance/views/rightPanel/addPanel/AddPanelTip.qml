@@ -1,0 +1,43 @@
+import QtQuick
+import PebbleUI
+
+// The tooltip of the entry that has the keyboard. There is one cursor, whoever moves it, so hovering counts for nothing.
+QtObject {
+    id: _top
+
+    required property Item entry // null: none
+    required property Item panel // the tip lies beside it
+    required property string text
+
+    readonly property string _shown: entry ? text : ""
+
+    on_ShownChanged: _private.update()
+    onEntryChanged: _private.update()
+    Component.onDestruction: _private.hide()
+
+    readonly property QtObject _private: QtObject {
+        id: _private
+
+        property PbTooltipPlane plane: null
+        property int tipId: -1
+
+        function hide(): void {
+            plane?.hideTip(tipId);
+            plane = null;
+        }
+
+        function update(): void {
+            hide();
+            plane = PebbleStyle.tooltipPlane as PbTooltipPlane;
+            if (_top._shown === "" || !plane)
+                return;
+            tipId = plane.showTip({
+                "target": _top.entry,
+                "targetForX": _top.panel,
+                "text": _top._shown,
+                "textFormat": Text.RichText,
+                "alignment": PbTooltipPlane.Alignment.Left
+            });
+        }
+    }
+}
