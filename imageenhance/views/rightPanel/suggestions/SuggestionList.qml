@@ -18,8 +18,7 @@ QtObject {
     required property int rowCount // of the column
     required property bool autopilotRunning
 
-    // Rows of `filterType` (a label), `subject`, `isAPFilter`.
-    readonly property ListModel suggestionModel: ListModel {}
+    readonly property alias suggestionModel: _model
     readonly property alias existingSuggestions: _private.existing // `{ filterName, subject }` each
     readonly property alias autoPilotFilters: _private.autoPilotFilters // the categories that it enabled for this image
     readonly property alias firstSuggestions: _private.firstSuggestions // none was taken and replaced yet
@@ -58,7 +57,7 @@ QtObject {
             return;
         _private.append(_source.next(_private.existing));
         _private.store(_private.existing.filter(({ filterName }) => filterName !== _top._names.enhance));
-        _private.rebuild(false);
+        _model.show(_private.existing, []);
     }
 
     // Autopilot was applied by hand, or a preset was.
@@ -70,20 +69,18 @@ QtObject {
             _private.append(_source.next(_private.existing));
             _private.store(_private.existing.filter(({ filterName, subject }) => filterName !== _top._names.sharpen && subject !== "Subject"));
         }
-        _private.rebuild(true);
-    }
-
-    function labelOf(category: string): string {
-        return category === _names.inpaint ? qsTr("Remove an object") : vocabulary.label(category);
+        _private.rebuild();
     }
 
     function categoryOf(label: string): string {
-        return _categories.find(category => labelOf(category) === label) ?? label;
+        return _model.categoryOf(label);
     }
 
     readonly property var _names: controls.categories // CategoryNames
-    readonly property list<string> _categories: [_names.denoise, _names.sharpen, _names.inpaint, _names.enhance, _names.exposure,
-        _names.whiteBalance, _names.faceRecovery, _names.textRecovery]
+    readonly property SuggestionModel _modelObject: SuggestionModel {
+        id: _model
+        vocabulary: _top.vocabulary
+    }
 
     readonly property SuggestionSource _sourceObject: SuggestionSource {
         id: _source
@@ -93,7 +90,7 @@ QtObject {
         vocabulary: _top.vocabulary
         inputSize: _top.inputSize
         problems: _private.problems
-        categories: _top._categories
+        categories: _model.categories
     }
 
     readonly property Timer _loaderTimer: Timer {
@@ -102,7 +99,7 @@ QtObject {
         onTriggered: {
             _private.append(_source.next(_private.existing));
             _private.store(_private.existing);
-            _private.rebuild(true);
+            _private.rebuild();
             _private.firstSuggestions = false;
         }
     }
@@ -169,7 +166,7 @@ QtObject {
 
         function restore(): void {
             existing = stored();
-            rebuild(true);
+            rebuild();
         }
 
         function append(suggestion: var): void {
@@ -177,16 +174,8 @@ QtObject {
                 existing = [...existing, suggestion];
         }
 
-        // Rows that stay are changed in place, so that only what comes and goes moves.
-        function rebuild(marked: bool): void {
-            const rows = _top.suggestionModel;
-            existing.forEach(({ filterName, subject }, i) => {
-                const advised = marked && _private.autoPilotFilters.includes(filterName)
-                    && (filterName !== _top._names.sharpen || subject === "Subject");
-                rows.set(i, { "filterType": _top.labelOf(filterName), subject, "isAPFilter": advised });
-            });
-            if (rows.count > existing.length)
-                rows.remove(existing.length, rows.count - existing.length);
+        function rebuild(): void {
+            _model.show(existing, autoPilotFilters);
         }
     }
 }

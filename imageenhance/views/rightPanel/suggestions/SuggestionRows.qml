@@ -80,7 +80,7 @@ ListView {
             const focused = row.activeFocus;
             const index = row.index;
             _top.suggestions.take(index);
-            if (focused && row.activeFocus && !row.enabled)
+            if (focused && row.activeFocus && row.leaving)
                 _top.cursor.go(_top.itemAtIndex(Math.min(index, _top.count - 1)) ?? _top.cursor.after.find(item => item.visible) ?? null);
         }
     }

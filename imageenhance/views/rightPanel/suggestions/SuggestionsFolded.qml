@@ -8,12 +8,15 @@ RowLayout {
 
     required property bool canSavePreset
 
+    readonly property alias entry: _show // where the keyboard comes to
+
     signal showSuggestions
     signal saveAsPreset
 
     spacing: PebbleStyle.size.spacingSmall
 
     PbButton {
+        id: _show
         Layout.fillWidth: true
         type: PbButton.Type.Tertiary
         compact: true

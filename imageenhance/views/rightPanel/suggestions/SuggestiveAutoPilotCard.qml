@@ -55,12 +55,15 @@ Rectangle {
     }
 
     SuggestionsFolded {
+        id: _folded
         visible: !_top.collapsed && _top.minimized
         anchors { fill: parent; margins: PebbleStyle.size.spacingSmall }
         canSavePreset: _top.suggestions.canSavePreset
         onShowSuggestions: {
+            const focused = _folded.entry.activeFocus;
             _top.minimized = false;
-            _cursor.go(_cursor.stop);
+            if (focused)
+                _cursor.go(_cursor.stop);
         }
         onSaveAsPreset: _top.saveAsPreset()
     }
@@ -96,7 +99,12 @@ Rectangle {
             iconSource: PebbleStyle.icon.close
             Accessible.name: qsTr("Hide suggestions")
             focusPolicy: _cursor.stop === _close ? Qt.TabFocus : Qt.NoFocus
-            onClicked: _top.minimized = true
+            onClicked: {
+                const focused = _close.activeFocus;
+                _top.minimized = true;
+                if (focused)
+                    _folded.entry.forceActiveFocus(Qt.TabFocusReason);
+            }
         }
         SuggestionRows {
             id: _rows

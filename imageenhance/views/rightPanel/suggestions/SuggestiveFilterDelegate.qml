@@ -16,6 +16,7 @@ T.AbstractButton {
 
     readonly property alias sentence: _state.sentence
     readonly property alias becomesTiff: _state.becomesTiff
+    readonly property alias leaving: _state.leaving // it is no row any more
 
     signal hoverSubject(show: bool, subject: string)
 
@@ -35,7 +36,7 @@ T.AbstractButton {
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()
     onVisualFocusChanged: focusRing()
-    ListView.onRemove: enabled = false // ends the preview of the subject
+    ListView.onRemove: _state.leaving = true
 
     background: PbBox {
         radius: PebbleStyle.size.mediumRadius
@@ -76,7 +77,7 @@ T.AbstractButton {
 
                 HoverHandler {
                     id: _hover
-                    enabled: _top.enabled
+                    enabled: !_state.leaving // ends the preview of the subject
                     onHoveredChanged: _top.hoverSubject(hovered, _top.subject)
                 }
             }
@@ -114,6 +115,7 @@ T.AbstractButton {
     QtObject {
         id: _state
 
+        property bool leaving: false
         readonly property string category: _top.suggestions.categoryOf(_top.filterType)
         readonly property bool lightOrColor: [_top.suggestions.controls.categories.exposure, _top.suggestions.controls.categories.whiteBalance].includes(category)
         readonly property bool becomesTiff: lightOrColor && _top.suggestions.controls.isRaw
