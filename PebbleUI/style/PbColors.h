@@ -68,6 +68,8 @@ class PbColors : public PbThemed {
     PB_COLOR(textQuiet, Gray4, Gray6)
     PB_COLOR(textWarning, Yellow, Gray8)
     PB_COLOR(textError, Red, Gray8)
+    // A blue word among others: primeBlue falls short of the contrast on a light page.
+    PB_COLOR(textBlue, Blue, 0xFF084BB0)
     PB_COLOR(textAlwaysLight, Gray0, Gray0)
     PB_COLOR(textAlwaysDark, Gray8, Gray8)
 

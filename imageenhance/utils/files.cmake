@@ -4,6 +4,7 @@ list(APPEND STUDIO_FILES
   utils/saveButton.mjs
   utils/filterModels.mjs
   utils/percent.mjs
+  utils/suggestions.mjs
   utils/support.mjs
   utils/upscaleLimits.mjs
   utils/viewport.mjs

@@ -37,7 +37,8 @@ TestCase {
             for (const [text, on] of [["textLight", "pageBkg"], ["textLight", "panelBkg"], ["textLight", "darkerGray"],
                                       ["textQuiet", "darkerGray"], ["lightGray", "panelBkg"],
                                       ["lighterGray", "darkestGray"], ["textLight", "noteBkg"], ["alwaysDark", "primeBlue"],
-                                      ["textWarning", "panelBkg"], ["textError", "pageBkg"], ["title", "panelBkg"],
+                                      ["textWarning", "panelBkg"], ["textBlue", "panelBkg"], ["textBlue", "darkerGray"],
+                                      ["textError", "pageBkg"], ["title", "panelBkg"],
                                       ["link", "panelBkg"], ["link", "pageBkg"], ["primeRed", "panelBkg"]]) {
                 const color = text === "link" ? _text.linkColor : PebbleStyle.color[text];
                 const ratio = contrast(color, PebbleStyle.color[on]);

@@ -2,6 +2,11 @@
 
 #include "frontends/TEngineController.h"
 
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -62,6 +67,19 @@ void FakeBackends::addFile(const QString &path, int width, int height) {
 
 void FakeBackends::failWriting(const QString &path, const QString &why) {
     s_files->failWriting(path, why);
+}
+
+TFilterGenerator *FakeBackends::recommender(const QVariantMap &counts) {
+    QJsonArray rows;
+    for (const auto &[sequence, count] : counts.asKeyValueRange())
+        rows.append(QJsonObject{{u"filters_combined"_s, sequence}, {u"count"_s, count.toDouble()}});
+    QFile file(m_folder.filePath(u"sequences.json"_s));
+    if (file.open(QFile::WriteOnly))
+        file.write(QJsonDocument(rows).toJson());
+    file.close();
+    auto *generator = new TFilterGenerator; // the garbage collector's
+    generator->load(file.fileName());
+    return generator;
 }
 
 void FakeBackends::advise(const QVariantMap &settings) {

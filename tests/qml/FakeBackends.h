@@ -3,6 +3,7 @@
 #include "frontends/AppContext.h"
 #include "host/TIntegrations.h"
 #include "host/TIntercom.h"
+#include "presets/TFilterGenerator.h"
 #include "tests/fakes/FakeEngine.h"
 #include "tests/fakes/FakeFiles.h"
 
@@ -57,6 +58,8 @@ public:
     Q_INVOKABLE void hold(const QStringList &kinds);
     Q_INVOKABLE void addFile(const QString &path, int width, int height);
     Q_INVOKABLE void failWriting(const QString &path, const QString &why);
+    /// One that knows these sequences ("['DENOISE-All', 'UPSCALE-']") by their counts; the caller's.
+    Q_INVOKABLE TFilterGenerator *recommender(const QVariantMap &counts);
     /// The answer to analyses from now on.
     Q_INVOKABLE void advise(const QVariantMap &settings);
     /// Analyses from now on report these steps, each when allowSteps() has come to its place in the list, and
