@@ -1,2 +1,4 @@
 list(APPEND STUDIO_QML
+  views/rightPanel/resolution/ResolutionFilterControl.qml
+  views/rightPanel/resolution/ResolutionState.qml
 )
