@@ -5,6 +5,10 @@ list(APPEND STUDIO_FILES
   utils/filterModels.mjs
   utils/percent.mjs
   utils/suggestions.mjs
+  utils/enhancementRow.mjs
+  utils/filterStack.mjs
+  utils/reasons.mjs
+  utils/refinePlacement.mjs
   utils/support.mjs
   utils/upscaleLimits.mjs
   utils/viewport.mjs

@@ -1,2 +1,26 @@
 list(APPEND STUDIO_QML
+  views/rightPanel/enhancements/CollapsibleEnhancement.qml
+  views/rightPanel/enhancements/DraggableHeader.qml
+  views/rightPanel/enhancements/EditedFilterReport.qml
+  views/rightPanel/enhancements/EnhancementActions.qml
+  views/rightPanel/enhancements/EnhancementsDelegate.qml
+  views/rightPanel/enhancements/EnhancementsListView.qml
+  views/rightPanel/enhancements/FilterView.qml
+  views/rightPanel/enhancements/PanelMenu.qml
+  views/rightPanel/enhancements/PanelShadow.qml
+  views/rightPanel/enhancements/RefineLayer.qml
+  views/rightPanel/enhancements/RefinePanelSlot.qml
+  views/rightPanel/enhancements/RefinePlacement.qml
+  views/rightPanel/enhancements/RowButton.qml
+  views/rightPanel/enhancements/RowDrag.qml
+  views/rightPanel/enhancements/RowInfo.qml
+  views/rightPanel/enhancements/RowMenu.qml
+  views/rightPanel/enhancements/RowSpinner.qml
+  views/rightPanel/enhancements/RowSubLine.qml
+  views/rightPanel/enhancements/filterViews/DenoiseFilterView.qml
+  views/rightPanel/enhancements/filterViews/ExpoFilterView.qml
+  views/rightPanel/enhancements/filterViews/RAWFilterView.qml
+  views/rightPanel/enhancements/filterViews/ResolutionFilterView.qml
+  views/rightPanel/enhancements/filterViews/SharpenFilterView.qml
+  views/rightPanel/enhancements/filterViews/WBFilterView.qml
 )

@@ -1,0 +1,14 @@
+pragma ComponentBehavior: Bound
+import imageenhance
+
+FilterView {
+    id: _top
+
+    content: RAWFilterControl {
+        controls: _top.panelState.controls
+        filterName: _top.filterName
+        parentCategory: _top.parentCategory
+        locked: _top.locked
+        nearLeftEdge: _top.nearLeftEdge
+    }
+}
