@@ -139,6 +139,7 @@ ApplicationWindow {
         recentFiles: openedImages.recentFiles
         dialogOpen: dialogs.anyOpen
         onBrowseImages: dialogs.openImageDialog.show()
+        onContextMenuRequested: at => dialogs.contextMenu.showAtPoint(at)
     }
     WindowDialogs {
         id: dialogs
@@ -148,6 +149,7 @@ ApplicationWindow {
         engine: imageProcessor
         panel: content.panel
         settings: mainSettings
+        presets: presetsManager
         developerMode: appWindow.context.isDev
         workAreaTop: content.titleBar.height
         onCloseWindow: appWindow.close()

@@ -10,6 +10,9 @@ MenuItem {
     property bool autoSuggested: false
     property url iconSource
 
+    // Its key as it is shown. A row without an action may name a key that is active elsewhere.
+    property var keySequence: action?.shortcut
+
     readonly property color _color: !enabled ? PebbleStyle.color.textDisabled
                                   : highlighted ? PebbleStyle.color.textHoverLight : PebbleStyle.color.textLight
 
@@ -55,10 +58,10 @@ MenuItem {
         id: _mnemonic
     }
 
-    // Never active: it knows how the action's key is written on this system.
+    // Never active: it knows how the key is written on this system.
     Shortcut {
         id: _key
         enabled: false
-        sequence: _top.action?.shortcut
+        sequence: _top.keySequence
     }
 }

@@ -49,6 +49,13 @@ QtObject {
         eventTracker.track("Image Opened");
     }
 
+    function presetSaved(preset: var): void {
+        eventTracker.track("Preset Saved", Object.assign({}, preset, {
+            "app": appContext.appName,
+            "app_version": appContext.appVersion
+        }));
+    }
+
     // The last things of a session.
     function leave(): void {
         osUtils.clearTempFiles();

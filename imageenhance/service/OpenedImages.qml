@@ -59,6 +59,7 @@ QtObject {
             _top.opened();
             _recentFiles.opened(images);
             _private.fileViewExpanded = _top.controls.loadedImages.length > 1;
+            _private.selectCurrent();
             _thumbnails.refresh();
         }
 
@@ -68,6 +69,7 @@ QtObject {
                 _top.controls.setCurrentIndex(-1);
             if (_top.pluginMode && _top.controls.loadedImages.length === 0)
                 _top.lastClosedByHost();
+            _private.selectCurrent();
             _thumbnails.refresh();
         }
 
@@ -84,5 +86,11 @@ QtObject {
     readonly property QtObject _private: QtObject {
         id: _private
         property bool fileViewExpanded: false
+
+        // A selection is of indices, which another list gives another meaning.
+        function selectCurrent(): void {
+            const current = _top.controls.currentIndex;
+            _top.controls.selectedImages = current >= 0 && current < _top.controls.loadedImages.length ? [current] : [];
+        }
     }
 }

@@ -1,14 +1,16 @@
 list(APPEND STUDIO_QML
   service/AutopilotRun.qml
+  service/BatchApply.qml
   service/ClosingFlow.qml
   service/ClosingSeveralFlow.qml
   service/Helpers.qml
   service/HostConnection.qml
   service/ImageOpening.qml
-  service/ImageProcessor.qml
   service/ImagePipeline.qml
+  service/ImageProcessor.qml
   service/KeyState.qml
   service/OpenedImages.qml
+  service/PresetReader.qml
   service/ProcScheduler.qml
   service/QuitFlow.qml
   service/RecentFiles.qml

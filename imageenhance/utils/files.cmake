@@ -1,3 +1,6 @@
+list(APPEND STUDIO_QML
+  utils/FileNameValidator.qml
+)
 list(APPEND STUDIO_FILES
   utils/autopilotSteps.mjs
   utils/filterStack.mjs
@@ -9,6 +12,7 @@ list(APPEND STUDIO_FILES
   utils/filterStack.mjs
   utils/reasons.mjs
   utils/refinePlacement.mjs
+  utils/presetReduction.mjs
   utils/support.mjs
   utils/upscaleLimits.mjs
   utils/viewport.mjs

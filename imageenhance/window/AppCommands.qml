@@ -48,14 +48,27 @@ QtObject {
         closing.closeAllImages();
     }
 
-    function showFile(): void {
-        helpers.osUtils.showFileInGraphicalShell(controls.currentImage);
+    function showFile(path = controls.currentImage): void {
+        helpers.osUtils.showFileInGraphicalShell(path);
     }
 
+    function selectAllImages(): void {
+        controls.selectedImages = controls.loadedImages.map((path, index) => index);
+    }
+
+    // The current image alone stays selected.
+    function deselectAllImages(): void {
+        controls.selectedImages = [controls.currentIndex];
+    }
+
+    // A selection of one follows.
     function step(by: int): void {
         const index = controls.currentIndex + by;
-        if (index >= 0 && index < controls.loadedImages.length)
-            controls.setCurrentIndex(index);
+        if (index < 0 || index >= controls.loadedImages.length)
+            return;
+        if (controls.selectedImages.length < 2)
+            controls.selectedImages = [index];
+        controls.setCurrentIndex(index);
     }
 
     function leftArrowKey(): void {

@@ -12,6 +12,9 @@ Item {
 
     readonly property bool _image: active && windowState.imageOpen
     readonly property bool _zooms: _image && !windowState.isCropping
+    readonly property bool _selects: _image && !windowState.isRefining
+    readonly property int _selected: windowState.controls.selectedImages.length
+    readonly property int _loaded: windowState.controls.loadedImages.length
 
     Shortcut {
         sequences: [StandardKey.Open]
@@ -41,6 +44,16 @@ Item {
     Shortcut {
         sequence: "Alt+F4"
         onActivated: _top.commands.exit()
+    }
+    Shortcut {
+        sequence: "Ctrl+A"
+        enabled: _top._selects && _top._selected < _top._loaded
+        onActivated: _top.commands.selectAllImages()
+    }
+    Shortcut {
+        sequence: "Ctrl+Shift+A"
+        enabled: _top._selects && _top._selected > 1
+        onActivated: _top.commands.deselectAllImages()
     }
     Shortcut {
         sequence: "Ctrl+0"

@@ -24,6 +24,7 @@ Item {
     readonly property alias panel: _panel
 
     signal browseImages // by a file dialog that has forgotten the last choice
+    signal contextMenuRequested(at: point) // in the window's coordinates
 
     // The keyboard goes back to the window's own keys.
     function takeFocus(): void {
@@ -58,6 +59,7 @@ Item {
             originalKeyHeld: _top.keyState.spaceHeld || _top.keyState.slashHeld
             navigatorWidth: _panel.navigatorWidth
             onOpenImageDialog: _top.commands.openFile()
+            onShowRightClickMenuAtPoint: point => _top.contextMenuRequested(point)
             onFocusWanted: _top.takeFocus()
         }
         RightPanel {

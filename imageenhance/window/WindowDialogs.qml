@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import PebbleUI
+import TPresetsManager
 import imageenhance
 
 // All that opens over the window, and the flows behind it.
@@ -12,6 +13,7 @@ Item {
     required property ImageProcessor engine
     required property RightPanel panel
     required property MainSettings settings
+    required property TPresetsManager presets
     required property bool developerMode
     required property real workAreaTop // below the title bar
 
@@ -20,6 +22,10 @@ Item {
     readonly property alias notices: _notices
     readonly property alias toaster: _toaster
     readonly property alias openImageDialog: _openImage
+    readonly property alias presetDialogs: _presets
+    readonly property alias applyQuestions: _applyQuestions
+    readonly property alias batch: _batch
+    readonly property alias contextMenu: _contextMenu
 
     signal closeWindow
     signal done // the keyboard goes back to the window
@@ -51,6 +57,46 @@ Item {
         imageUtils: _top.windowState.helpers.imageUtils
         toaster: _toaster
         queue: _queue
+    }
+    PresetDialogs {
+        id: _presets
+        anchors.fill: parent
+        controls: _top.windowState.controls
+        presets: _top.presets
+        vocabulary: FilterVocabulary {
+            controls: _top.windowState.controls
+        }
+        helpers: _top.windowState.helpers
+        queue: _queue
+        onSaved: preset => _top.windowState.helpers.presetSaved(preset)
+        onWarned: (title, message) => _toaster.warn(title, message)
+    }
+    BatchApply {
+        id: _batch
+        controls: _top.windowState.controls
+        windowState: _top.windowState
+        presets: _top.presets
+        onWarned: (title, message) => _toaster.warn(title, message)
+    }
+    ApplyQuestions {
+        id: _applyQuestions
+        controls: _top.windowState.controls
+        queue: _queue
+        onAutopilotToSelectedConfirmed: _batch.applyAutopilotToSelected()
+        onCurrentSettingsToSelectedConfirmed: _batch.applyCurrentSettingsToSelected()
+    }
+    RightClickMenu {
+        id: _contextMenu
+        controls: _top.windowState.controls
+        windowState: _top.windowState
+        commands: _top.commands
+        presets: _top.presets
+        onAutopilotToSelectedAsked: _applyQuestions.askAutopilotToSelected()
+        onAutopilotToIndexAsked: index => _batch.applyAutopilotToIndex(index)
+        onCurrentSettingsToSelectedAsked: _applyQuestions.askCurrentSettingsToSelected()
+        onCurrentSettingsToIndexAsked: index => _batch.applyCurrentSettingsToIndex(index)
+        onPresetToSelectedAsked: name => _batch.applyNamedPresetToSelected(name)
+        onPresetToIndexAsked: (name, index) => _batch.applyNamedPresetToIndex(name, index)
     }
     Toaster {
         id: _toaster

@@ -4,6 +4,8 @@ list(APPEND STUDIO_QML
   window/DebugConsole.qml
   window/DimensionsHeader.qml
   window/OpenImageDialog.qml
+  window/RightClickMenu.qml
+  window/RightClickRules.qml
   window/WindowContent.qml
   window/WindowDialogs.qml
   window/WindowPlace.qml

@@ -6,6 +6,8 @@ QueuedDialog {
     id: _top
 
     required property string confirmText
+    // Return presses a primary button. With a destructive one it cancels.
+    property int confirmType: PbButton.Type.Primary
 
     height: implicitHeight
     buttons: [
@@ -15,7 +17,7 @@ QueuedDialog {
             onClicked: () => _top.answer(false)
         },
         {
-            type: PbButton.Type.Primary,
+            type: _top.confirmType,
             text: _top.confirmText,
             onClicked: () => _top.answer(true)
         }

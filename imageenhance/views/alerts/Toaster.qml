@@ -18,6 +18,14 @@ Item {
         return _toasts.queue(options);
     }
 
+    function warn(title: string, message: string): void {
+        queue({
+            "title": title,
+            "message": message,
+            "type": Toaster.Type.Warn
+        });
+    }
+
     visible: _toasts.count > 0
     implicitWidth: 320
     implicitHeight: _list.contentHeight

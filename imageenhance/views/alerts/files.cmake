@@ -1,4 +1,5 @@
 list(APPEND STUDIO_QML
+  views/alerts/ApplyQuestions.qml
   views/alerts/ClosingQuestions.qml
   views/alerts/DialogQueue.qml
   views/alerts/NoticeDialog.qml
