@@ -27,6 +27,11 @@ inline QStringList processingOrder() {
     return {Raw, Exposure, WhiteBalance, Denoise, Sharpen, FaceRecovery, Enhance, TextRecovery};
 }
 
+/// Those that can be limited to a part of the picture.
+inline bool takesSubject(const QString &category) {
+    return category == Denoise || category == Sharpen || category == Exposure || category == WhiteBalance;
+}
+
 inline QStringList all() {
     return processingOrder() + QStringList(Inpaint);
 }

@@ -4,6 +4,7 @@ import QtQuick.Controls
 import AppContext
 import AppState
 import TControls
+import TFilterGenerator
 import TImageIO
 import TIntegrations
 import TIntercom
@@ -23,6 +24,7 @@ ApplicationWindow {
     readonly property TIntegrations host: tIntegrations
     readonly property TIntercom intercom: tIntercom
     readonly property WindowsThemeListener systemTheme: themeListener
+    readonly property TFilterGenerator generator: filterGenerator
     // qmllint enable unqualified
 
     minimumWidth: Math.min(1280, Screen.desktopAvailableWidth)
@@ -137,6 +139,8 @@ ApplicationWindow {
         keyState: keyState
         commands: appMenuHandler
         recentFiles: openedImages.recentFiles
+        presets: presetsManager
+        generator: appWindow.generator
         dialogOpen: dialogs.anyOpen
         onBrowseImages: dialogs.openImageDialog.show()
         onContextMenuRequested: at => dialogs.contextMenu.showAtPoint(at)

@@ -35,6 +35,7 @@ public:
     /// Replaces the last recorded state. Steps stay as they are on both sides.
     void amend(const EditState &state);
 
+    bool endsIn(const EditState &state) const { return m_states.at(m_current) == state; }
     bool canUndo() const { return m_current > 0; }
     bool canRedo() const { return m_current + 1 < m_states.size(); }
     /// The state that becomes the last recorded one; none at the end of the history.

@@ -154,6 +154,9 @@ public:
     Q_INVOKABLE void amendEdit();
     /// Starts anew from the present state.
     Q_INVOKABLE void forgetEdits();
+    /// The image is looked at again: its history goes on where it still ends in the present state, and starts
+    /// anew where something else has changed the image since.
+    Q_INVOKABLE void startEdits();
     /// These two record what is pending first. False when there is nothing to undo or redo.
     Q_INVOKABLE bool undoEdit();
     Q_INVOKABLE bool redoEdit();

@@ -38,6 +38,10 @@ QStringList TControls::adoptRecommendedFilters() {
     const QStringList adopted = filterOrder();
     QStringList order = Categories::processingOrder();
     order.removeIf([&adopted](const QString &name) { return !adopted.contains(name); });
+    for (const QString &name : std::as_const(order)) {
+        if (Categories::takesSubject(name))
+            initializeSubject(name);
+    }
     return order;
 }
 

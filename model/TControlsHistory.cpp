@@ -40,6 +40,12 @@ void TControls::forgetEdits() {
     Q_EMIT editHistoryChanged();
 }
 
+void TControls::startEdits() {
+    const auto history = m_editHistories.constFind(currentImage());
+    if (history == m_editHistories.cend() || !history->endsIn(currentEdits()))
+        forgetEdits();
+}
+
 bool TControls::undoEdit() {
     return moveThroughEdits(&EditHistory::undo);
 }

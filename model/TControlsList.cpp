@@ -63,6 +63,9 @@ void TControls::setCurrentIndex(qint64 index, bool forceUpdate) {
     }
     if (index == m_currentIndex && !forceUpdate)
         return;
+    // What was begun on the image that is left is a step of its own.
+    if (m_editHistories.contains(currentImage()))
+        recordEdit();
     m_currentIndex = index;
     const QString path = pathAt(index);
     Q_EMIT currentIndexChanged();

@@ -3,16 +3,15 @@ list(APPEND STUDIO_QML
 )
 list(APPEND STUDIO_FILES
   utils/autopilotSteps.mjs
-  utils/filterStack.mjs
-  utils/saveButton.mjs
-  utils/filterModels.mjs
-  utils/percent.mjs
-  utils/suggestions.mjs
   utils/enhancementRow.mjs
+  utils/filterModels.mjs
   utils/filterStack.mjs
+  utils/percent.mjs
+  utils/presetReduction.mjs
   utils/reasons.mjs
   utils/refinePlacement.mjs
-  utils/presetReduction.mjs
+  utils/saveButton.mjs
+  utils/suggestions.mjs
   utils/support.mjs
   utils/upscaleLimits.mjs
   utils/viewport.mjs

@@ -7,6 +7,7 @@ Item {
 
     required property AppCommands commands
     required property ImagePreview preview
+    required property RightPanel panel
     required property bool active // no dialog is open
     required property WindowState windowState
 
@@ -54,6 +55,22 @@ Item {
         sequence: "Ctrl+Shift+A"
         enabled: _top._selects && _top._selected > 1
         onActivated: _top.commands.deselectAllImages()
+    }
+    Shortcut {
+        sequence: "Ctrl+K"
+        autoRepeat: false
+        enabled: _top._image
+        onActivated: _top.panel.toggleEnhancementsPanel()
+    }
+    Shortcut {
+        sequences: [StandardKey.Undo]
+        enabled: _top._image && _top.panel.logic.steps.canUndo
+        onActivated: _top.panel.logic.steps.undo()
+    }
+    Shortcut {
+        sequences: [StandardKey.Redo, "Ctrl+Shift+Z"]
+        enabled: _top._image && _top.panel.logic.steps.canRedo
+        onActivated: _top.panel.logic.steps.redo()
     }
     Shortcut {
         sequence: "Ctrl+0"

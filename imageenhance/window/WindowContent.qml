@@ -2,6 +2,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Window
 import PebbleUI
+import TFilterGenerator
+import TPresetsManager
 import imageenhance
 
 // What is seen of the window: its title bar, the picture and the panel beside it, or the welcome screen. What lies over
@@ -17,6 +19,8 @@ Item {
     required property KeyState keyState
     required property AppCommands commands
     required property RecentFiles recentFiles
+    required property TPresetsManager presets
+    required property TFilterGenerator generator
     required property bool dialogOpen
 
     readonly property alias titleBar: _titleBar
@@ -51,7 +55,7 @@ Item {
 
         ImagePreview {
             id: _preview
-            anchors { left: parent.left; right: _panel.left; top: parent.top; bottom: parent.bottom }
+            anchors { left: parent.left; right: _panel.left; rightMargin: _panel.sidebarOffset; top: parent.top; bottom: parent.bottom }
             visible: !_top.windowState.hidesPreview
             engine: _top.engine
             windowState: _top.windowState
@@ -65,10 +69,28 @@ Item {
         RightPanel {
             id: _panel
             anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
-            controls: _top.windowState.controls
+            engine: _top.engine
+            windowState: _top.windowState
             settings: _top.settings
+            presets: _top.presets
+            generator: _top.generator
             navigator: _preview.navigator
-            imageOpen: _top.windowState.imageOpen
+            layer: _beside
+            shiftHeld: _top.keyState.shiftHeld
+            onFocusWanted: _top.takeFocus()
+        }
+        // What opens beside the panel has the keys that nothing in it wants.
+        FocusScope {
+            id: _beside
+            anchors.fill: parent
+            Keys.onPressed: event => {
+                _top.keyState.pressed(event.key, event.modifiers, event.isAutoRepeat);
+                event.accepted = false;
+            }
+            Keys.onReleased: event => {
+                _top.keyState.released(event.key, event.modifiers, event.isAutoRepeat);
+                event.accepted = false;
+            }
         }
     }
 
@@ -105,11 +127,14 @@ Item {
         id: _globalFocus
         focus: true
         Keys.onPressed: event => event.accepted = _top.keyState.pressed(event.key, event.modifiers, event.isAutoRepeat)
+        Keys.onUpPressed: _panel.focusFirstItem()
+        Keys.onDownPressed: _panel.focusFirstItem()
         Keys.onReleased: event => event.accepted = _top.keyState.released(event.key, event.modifiers, event.isAutoRepeat)
     }
     AppShortcuts {
         commands: _top.commands
         preview: _preview
+        panel: _panel
         windowState: _top.windowState
         active: !_top.dialogOpen
     }

@@ -63,9 +63,7 @@ Item {
         anchors.fill: parent
         controls: _top.windowState.controls
         presets: _top.presets
-        vocabulary: FilterVocabulary {
-            controls: _top.windowState.controls
-        }
+        vocabulary: _top.panel.logic.vocabulary
         helpers: _top.windowState.helpers
         queue: _queue
         onSaved: preset => _top.windowState.helpers.presetSaved(preset)
@@ -76,12 +74,28 @@ Item {
         controls: _top.windowState.controls
         windowState: _top.windowState
         presets: _top.presets
+        onClearAndAddAutopilotFilters: _top.panel.logic.clearAndAddAutopilotFilters()
+        onClearEditsColumn: _top.panel.logic.stack.clearEditsColumn()
+        onReadyToAddFilters: _top.panel.readyToAddFilters()
+        onPresetTriggered: _top.panel.suggestions.regenerate()
+        onManuallyTriggeredAP: _top.panel.suggestions.regenerate()
         onWarned: (title, message) => _toaster.warn(title, message)
+    }
+    PanelQuestions {
+        panel: _top.panel
+        toaster: _toaster
+        presetDialogs: _presets
+        applyQuestions: _applyQuestions
     }
     ApplyQuestions {
         id: _applyQuestions
         controls: _top.windowState.controls
         queue: _queue
+        onAutopilotConfirmed: {
+            _top.panel.logic.stack.clearEditsColumn(true);
+            _top.panel.applyAutopilot();
+        }
+        onAutopilotCancelled: _top.panel.focusApplyAutopilot()
         onAutopilotToSelectedConfirmed: _batch.applyAutopilotToSelected()
         onCurrentSettingsToSelectedConfirmed: _batch.applyCurrentSettingsToSelected()
     }

@@ -4,6 +4,7 @@ import QtTest
 import Testing
 import TControls
 import TImageIO
+import TPresetsManager
 import imageenhance
 
 // A test of the long-lived objects of the window, joined as `main` joins them, over back ends that the test scripts.
@@ -26,6 +27,8 @@ TestCase {
     readonly property alias preview: _preview
     readonly property alias panel: _panel
     readonly property alias pipeline: _pipeline
+    readonly property alias presets: _presets
+    readonly property alias layer: _layer
     property int answers: 0 // of the engine, one for each run that was asked for
     property int cancelled: 0 // of these
 
@@ -68,6 +71,25 @@ TestCase {
         }
     }
 
+    // One model for each category that has an engine.
+    function useCatalogue(): void {
+        const number = { "default": 0.5 };
+        const model = keys => ({ "gui": { "parameters": Object.fromEntries(keys.map(key => [key, number])) } });
+        _controls.modelParamInfo = {
+            "Denoise": { "Low Light Beta": model(["param1_normalv2", "param2_normalv2", "recover_detail"]), "Severe Noise": model(["param1", "param2"]), "Severe Noise Beta": model(["param1_strongv2", "param2_strongv2"]) },
+            "Sharpen": { "Sharpen Standard": model(["param1", "param2", "slens_blur", "smot_blur"]), "Sharpen Standard v2": model(["param1", "param2", "std_blur", "std_noise"]), "Sharpen Strong": model(["param1", "param2", "stg_blur"]) },
+            "Enhance": { "CGI": model(["param1", "param2"]), "Standard": model(["param1", "param2", "param3"]), "Standard V2": model(["param1", "param2", "param3"]) },
+            "RAW": { "Linear RAW": model(["param1_native"]), "RAW Native": model(["param1_native", "param2_native"]), "RAW Standard": model(["param1_standard", "param2_standard", "param3_standard"]) },
+            "Exposure Adjust": { "Exposure Standard": model(["param1"]) },
+            "White Balance Adjust": { "White Balance Standard": model(["temperature", "strength"]) }
+        };
+    }
+
+    // [name, filter] of a controls map's filters, by their names.
+    function filtersOf(map: var): var {
+        return Object.entries(map).filter(([name, filter]) => filter?.category !== undefined && name !== "autoPilotSettings").sort(([one], [other]) => one < other ? -1 : 1);
+    }
+
     // The runs asked for since the last forget(), each of which reached the engine.
     function runs(): list<var> {
         settle();
@@ -106,6 +128,10 @@ TestCase {
     TControls {
         id: _controls
     }
+    TPresetsManager {
+        id: _presets
+        presetsDirectory: _backends.appContext.presetsDirectory
+    }
     TImageReader {
         id: _reader
     }
@@ -139,10 +165,21 @@ TestCase {
     }
     RightPanel {
         id: _panel
-        controls: _controls
+        x: 900 - width
+        height: 700
+        engine: _engine
+        windowState: _state
         settings: _settings
+        presets: _presets
+        generator: _backends.generator
         navigator: _preview.navigator
-        imageOpen: _state.imageOpen
+        layer: _layer
+        shiftHeld: false
+    }
+    Item {
+        id: _layer
+        anchors.fill: parent
+        z: 1
     }
     ImagePreview {
         id: _preview

@@ -26,15 +26,6 @@ QtObject {
         _private.move(() => controls.redoEdit());
     }
 
-    // What the program itself changes in `work` belongs to the step before.
-    function derive(work: var): void {
-        if (active)
-            _private.record();
-        work();
-        if (active)
-            controls.amendEdit();
-    }
-
     onRecordingChanged: {
         _pause.stop();
         if (recording)

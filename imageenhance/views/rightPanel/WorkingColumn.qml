@@ -20,6 +20,9 @@ Item {
     EnhancementActions {
         id: _actions
         panelState: _top._logic.stack
+        fileSize: _top.panel.fileSize
+        fileSizeError: _top.panel.fileSizeError
+        onEstimateFileSize: _top.panel.estimateFileSize()
         onHoverPreview: (show, mode) => _top._logic.selection.toggleHoverPreview(show, mode)
     }
 

@@ -8,7 +8,6 @@ list(APPEND STUDIO_QML
   views/rightPanel/PanelControlBar.qml
   views/rightPanel/PanelLayer.qml
   views/rightPanel/PanelLogic.qml
-  views/rightPanel/FilterVocabulary.qml
   views/rightPanel/ProgressState.qml
   views/rightPanel/RightPanel.qml
   views/rightPanel/RightPanelState.qml

@@ -6,11 +6,14 @@ QtObject {
     id: _top
 
     required property RightPanelState panelState
+    property real fileSize: 0 // of a save with the present settings, in bytes; 0 when unknown
+    property string fileSizeError: ""
 
     // Whether a part of the picture can be selected for a filter: there is no engine that finds one yet.
     readonly property bool offersSelection: false
     readonly property alias maskingView: _private.maskingView // the open panel shows its selection tab
 
+    signal estimateFileSize
     signal hoverPreview(bool showMask, int editMode)
     signal panelFocusWanted
     signal listFocusWanted

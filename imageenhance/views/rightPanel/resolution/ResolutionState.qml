@@ -49,9 +49,6 @@ QtObject {
 
     // The params have changed, and with them the size of the file.
     signal estimateFileSize
-    // Around a write that follows from another change and is no step of the user's own.
-    signal derivedChangeBegins
-    signal derivedChangeEnds
 
     function applyUpscaleLimitsToResizeControls(): void {
         if (!_private.isReady())
@@ -97,11 +94,12 @@ QtObject {
         // A write to a filter that has just been removed would bring it back without its category.
         if (!controls.currentControls[filterName])
             return;
+        // A write that follows from another change is no step of the user's own.
         if (!manual)
-            derivedChangeBegins();
+            controls.recordEdit();
         const changed = controls.setParams(filterName, Object.assign(next, { updated: manual }));
         if (!manual)
-            derivedChangeEnds();
+            controls.amendEdit();
         if (changed)
             estimateFileSize();
     }

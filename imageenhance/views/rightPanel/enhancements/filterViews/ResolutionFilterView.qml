@@ -17,6 +17,7 @@ FilterView {
         resizingSupported: _top._host.resizingSupported
         psAutomate: _top._host.pluginType === TIntegrations.PSAutomate
         loading: _top.windowState.isLoading
+        onEstimateFileSize: _top.actions.estimateFileSize()
     }
 
     readonly property TIntegrations _host: windowState.integrations
@@ -29,5 +30,7 @@ FilterView {
         settings: _top.settings
         locked: _top.locked
         nearLeftEdge: _top.nearLeftEdge
+        fileSize: _top.actions.fileSize
+        fileSizeError: _top.actions.fileSizeError
     }
 }
