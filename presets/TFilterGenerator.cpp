@@ -13,6 +13,8 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -78,27 +80,44 @@ private:
 } // namespace
 
 void TFilterGenerator::load(const QString &filename) {
-    QFile file(filename);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    auto file = std::make_unique<QFile>(filename);
+    if (!file->open(QIODevice::ReadOnly | QIODevice::Text)) {
         qCritical() << "Could not open file:" << filename;
         return;
     }
+    m_loading.push_back(std::async(std::launch::async, [file = std::move(file)] { return read(*file); }));
+}
+
+TFilterGenerator::Table TFilterGenerator::read(QFile &file) {
+    Table table;
     QJsonParseError damage;
     const QJsonArray rows = QJsonDocument::fromJson(file.readAll(), &damage).array();
     if (rows.isEmpty())
-        qWarning() << "The table of filters holds nothing:" << filename << damage.errorString();
+        qWarning() << "The table of filters holds nothing:" << file.fileName() << damage.errorString();
     SequenceReader sequence;
     for (const auto &element : rows) {
         const QJsonObject row = element.toObject();
         if (sequence.read(row.value("filters_combined"_L1).toString()))
-            m_filterSequences[sequence.key()].append({sequence.next(), row.value("count"_L1).toDouble()});
+            table[sequence.key()].append({sequence.next(), row.value("count"_L1).toDouble()});
     }
     file.close();
-    qInfo() << "Finished loading JSON file:" << filename;
+    qInfo() << "Finished loading JSON file:" << file.fileName();
+    return table;
+}
+
+void TFilterGenerator::takeLoaded() {
+    for (std::future<Table> &loading : std::exchange(m_loading, {})) {
+        Table table = loading.get();
+        if (m_filterSequences.isEmpty())
+            std::swap(m_filterSequences, table);
+        for (const auto &[key, continuations] : std::as_const(table).asKeyValueRange())
+            m_filterSequences[key] += continuations;
+    }
 }
 
 QString TFilterGenerator::suggestNextFilter(const QStringList &appliedFilters,
                                             const QStringList &excludeFilters) {
+    takeLoaded();
     if (appliedFilters.isEmpty())
         return mostUsedSingleFilter(excludeFilters);
 

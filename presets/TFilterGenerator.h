@@ -6,6 +6,11 @@
 #include <QStringList>
 #include <QtQmlIntegration/qqmlintegration.h>
 
+#include <future>
+#include <vector>
+
+class QFile;
+
 /// Suggests the filter that users most often took next, from a table of counts. Knows nothing of the
 /// image. A filter is written as its category, a hyphen and the subject: "Sharpen-Subject", "Enhance-".
 class TFilterGenerator : public QObject {
@@ -16,7 +21,8 @@ public:
     using QObject::QObject;
 
     /// Adds a JSON table of { "filters_combined": "['A-x', 'B-y']", "count": n }. A missing file is
-    /// logged and leaves the table as it is; a malformed row is passed over.
+    /// logged and leaves the table as it is; a malformed row is passed over. The window is not kept waiting:
+    /// the table is read on a thread, and the first question waits for it.
     Q_INVOKABLE
     void load(const QString &filename);
 
@@ -27,8 +33,12 @@ public:
 
 private:
     using Continuation = QPair<QString, double>;
+    using Table = QMap<QString, QList<Continuation>>;
 
+    static Table read(QFile &file);
+    void takeLoaded();
     QString mostUsedSingleFilter(const QStringList &excludeFilters) const;
 
-    QMap<QString, QList<Continuation>> m_filterSequences;
+    Table m_filterSequences;
+    std::vector<std::future<Table>> m_loading;
 };

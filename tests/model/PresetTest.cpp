@@ -118,7 +118,6 @@ TEST(Preset, WhatCannotBeAppliedLeavesNothingBehind) {
     EXPECT_TRUE(c.filterOrder().isEmpty());
     for (const char *name : {"RAW", "Inpaint", "Inpaint2", "F", "Gone", "odd", "missing", ""})
         EXPECT_FALSE(c.currentControls().contains(QString::fromLatin1(name))) << name;
-    const QVariantMap before = c.currentControls();
     EXPECT_EQ(c.applyPresetToImage(u"/gone.jpg"_s, {}, {}, true).value(u"message"_s),
               u"Image does not exist"_s);
     EXPECT_EQ(c.size(), 3);

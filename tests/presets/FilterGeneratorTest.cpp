@@ -122,18 +122,17 @@ TEST_F(Recommender, TheInstalledTableIsNeverAtALoss) {
     // A picture that is large, without faces, from a camera's raw file.
     const QStringList notToBeHad = {u"Enhance-"_s, u"Face Recovery-"_s, u"Denoise-All"_s};
     QSet<QString> seen;
-    int without = 0;
+    QStringList silent;
     const std::function<void(const QStringList &, const QString &, int)> walk =
         [&](const QStringList &filters, const QString &sharpen, int more) {
             const QStringList asked = collapsed(filters);
             const QString key = asked.join(u',');
             if (!asked.isEmpty() && !seen.contains(key)) {
                 seen.insert(key);
-                const QString suggested = m_generator.suggestNextFilter(asked, notToBeHad);
-                if (suggested.isEmpty() || !collapsed(asked + QStringList(suggested)).contains(suggested))
-                    ADD_FAILURE_AT(__FILE__, __LINE__) << key.toStdString() << " number " << ++without;
+                if (m_generator.suggestNextFilter(asked, notToBeHad).isEmpty())
+                    silent.append(key);
             }
-            if (more == 0 || without > 20)
+            if (more == 0)
                 return;
             for (const QString &category : selective)
                 walk(filters + QStringList(category + (category == u"Sharpen"_s ? sharpen : u"-All"_s)),
@@ -161,6 +160,7 @@ TEST_F(Recommender, TheInstalledTableIsNeverAtALoss) {
         for (const QString &second : std::as_const(chosen))
             walk({first, second}, {}, 0);
     }
+    EXPECT_EQ(silent.mid(0, 20), QStringList());
     EXPECT_GT(seen.size(), 5000);
 }
 
