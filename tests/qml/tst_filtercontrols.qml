@@ -41,9 +41,15 @@ WindowParts {
         PebbleStyle.tooltipPlane = null;
     }
 
+    // A catalogue of these models, without parameters.
     function known(models: var): var {
-        return Object.fromEntries(Object.entries(models).map(([category, names]) =>
-            [category, Object.fromEntries(names.map(name => [name, { gui: { parameters: {} } }]))]));
+        const catalogue = {};
+        for (const category in models) {
+            catalogue[category] = {};
+            for (const name of models[category])
+                catalogue[category][name] = {};
+        }
+        return catalogue;
     }
 
     // A control of a filter with these settings, on an image for which Autopilot answered this.

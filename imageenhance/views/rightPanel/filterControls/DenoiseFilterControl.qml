@@ -1,4 +1,3 @@
-import PebbleUI
 import "../../../utils/filterModels.mjs" as Models
 
 // The model and the strengths of a "Denoise" filter.

@@ -1,5 +1,3 @@
-import PebbleUI
-
 // The strength of an "Exposure Adjust" filter; below zero it adds to what it otherwise evens out.
 FilterControl {
     id: _top

@@ -1,6 +1,5 @@
 import QtQuick
 import PebbleUI
-import TControls
 import "../../../utils/percent.mjs" as Percent
 
 // One strength of a filter: shows in percent what the model holds as a fraction, follows the model, and writes what

@@ -1,4 +1,3 @@
-import PebbleUI
 import "../../../utils/filterModels.mjs" as Models
 
 // The model and the strengths of the "RAW" filter; empty on an image that is not a RAW file.

@@ -1,4 +1,3 @@
-import PebbleUI
 import "../../../utils/filterModels.mjs" as Models
 
 // The kind and the strengths of a "Sharpen" filter. A kind is a model, with or without "isLens", and a pair of

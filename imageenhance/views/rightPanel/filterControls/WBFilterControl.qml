@@ -1,5 +1,4 @@
 import QtQuick
-import PebbleUI
 
 // The temperature and the opacity of a "White Balance Adjust" filter.
 FilterControl {
