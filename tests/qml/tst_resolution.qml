@@ -9,6 +9,7 @@ WindowParts {
 
     name: "Resolution"
     when: windowShown
+    visible: true
 
     ResolutionState {
         id: resolution
@@ -39,8 +40,7 @@ WindowParts {
     }
 
     function initTestCase(): void {
-        const models = ["CGI", "High Fidelity", "Standard", "Standard V2"].map(name => [name, {}]);
-        parts.controls.modelParamInfo = { Enhance: Object.fromEntries(models) };
+        parts.controls.modelParamInfo = { Enhance: { "CGI": {}, "High Fidelity": {}, "Standard": {}, "Standard V2": {} } };
         parts.backends.advise({ Enhance: { enabled: false, model: "Standard", param1: 0.3 } });
     }
 
