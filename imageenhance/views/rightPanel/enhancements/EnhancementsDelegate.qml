@@ -1,7 +1,7 @@
 import QtQuick
 import PebbleUI
 import imageenhance
-import "../../../utils/enhancementRow.mjs" as Row
+import "../../../utils/enhancementRow.mjs" as Rules
 import "../../../utils/filterStack.mjs" as Stack
 import "../../../utils/reasons.mjs" as Reasons
 
@@ -27,7 +27,7 @@ Item {
     readonly property bool filterEnabled: Boolean(filter.enabled)
     readonly property bool open: panelState.refiningFilter === adjustedFilterName
     readonly property bool dragged: drag.filterName === adjustedFilterName
-    readonly property string subLine: Row.subLine(parentCategory, filter, panelState.controls.categories)
+    readonly property string subLine: Rules.subLine(parentCategory, filter, panelState.controls.categories)
     readonly property string reason: mode === EnhancementsModel.Mode.Autopilot ? Reasons.sentence(parentCategory, panelState.problems?.reasons?.[parentCategory]) : ""
 
     signal menuRequested
@@ -37,7 +37,7 @@ Item {
     readonly property bool _tools: !collapsed && !_isRaw && !dragged
     readonly property bool _showsRemove: _tools && _hovered && !locked
     readonly property bool _showsVisibility: _tools && ((_hovered && !locked) || !filterEnabled)
-    readonly property bool _spins: Row.showsSpinner(starting, open, panelState.expandedFilter, filterEnabled, locked)
+    readonly property bool _spins: Rules.showsSpinner(starting, open, panelState.expandedFilter, filterEnabled, locked)
     readonly property color _ink: !filterEnabled || locked ? PebbleStyle.color.lightGray : open || _hovered ? PebbleStyle.color.textHoverLight : PebbleStyle.color.textLight
     readonly property string _info: {
         const names = panelState.controls.categories;
@@ -100,7 +100,7 @@ Item {
             onReleased: mouse => {
                 if (_top.dragged)
                     _top.drag.drop();
-                else if (!containsMouse || drag.active)
+                else if (!containsMouse)
                     return;
                 else if (mouse.button === Qt.RightButton)
                     _top.menuRequested();

@@ -24,14 +24,14 @@ QtObject {
     function beginDrag(): void {
         const from = position;
         _private.dragging = true;
-        _private.float(from);
+        _private.floatAt(from);
         _private.draggedFrom = from;
     }
 
     // By so much since the beginning.
     function dragBy(x: real, y: real): void {
         const from = _private.draggedFrom;
-        _private.float(Qt.point(from.x + x, from.y + y));
+        _private.floatAt(Qt.point(from.x + x, from.y + y));
     }
 
     function endDrag(): void {
@@ -52,7 +52,7 @@ QtObject {
     function undock(): void {
         _private.floating = true; // its bounds are those of its own height
         const to = Placement.undocked(_private.bounds);
-        _private.float(Qt.point(to.x, to.y));
+        _private.floatAt(Qt.point(to.x, to.y));
         _private.keep();
     }
 
@@ -85,7 +85,7 @@ QtObject {
             "height": _top.height
         })
 
-        function float(to: point): void {
+        function floatAt(to: point): void {
             floating = true;
             const inside = Placement.clamped(to, bounds);
             position = Qt.point(inside.x, inside.y);
@@ -103,7 +103,7 @@ QtObject {
                 return;
             const at = _top.area.mapFromGlobal(stored);
             if (Placement.isInside({ "x": Math.round(at.x), "y": Math.round(at.y) }, bounds))
-                float(at);
+                floatAt(at);
             else
                 _top.dock();
         }
@@ -115,7 +115,7 @@ QtObject {
                 _top.dock();
                 return;
             }
-            float(position);
+            floatAt(position);
             keep();
         }
     }

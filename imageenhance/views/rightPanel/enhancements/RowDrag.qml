@@ -1,6 +1,6 @@
 import QtQuick
 import imageenhance
-import "../../../utils/enhancementRow.mjs" as Row
+import "../../../utils/enhancementRow.mjs" as Rules
 
 // A drag of one row: the rows move along with it, and the filters follow on the drop. Positions are those of a row's top in
 // the list's content.
@@ -31,7 +31,7 @@ QtObject {
         const rows = panelState.enhancementsModel;
         const last = Math.min(visibleTop + visibleHeight - rowHeight, (rows.count - 1) * pitch);
         _private.y = Math.max(visibleTop, Math.min(last, y));
-        panelState.moveRow(rows.indexOfFilter(filterName), Row.rowAt(_private.y, rowHeight, pitch, rows.count));
+        panelState.moveRow(rows.indexOfFilter(filterName), Rules.rowAt(_private.y, rowHeight, pitch, rows.count));
     }
 
     function drop(): void {

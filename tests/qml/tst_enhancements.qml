@@ -1,0 +1,235 @@
+import QtQuick
+import QtTest
+import Testing
+import imageenhance
+import "../../imageenhance/utils/enhancementRow.mjs" as Rules
+import "../../imageenhance/utils/reasons.mjs" as Reasons
+
+EnhancementParts {
+    id: parts
+
+    name: "Enhancements"
+
+    LogLines {
+        id: lines
+    }
+    SignalSpy {
+        id: reports
+        target: report
+        signalName: "track"
+    }
+    EditedFilterReport {
+        id: report
+        panelState: parts.panelState
+    }
+
+    function init(): void {
+        openWith(["Denoise", "Sharpen", "Exposure Adjust", "Enhance"]);
+        reports.clear();
+    }
+
+    function order(): list<string> {
+        return Array.from(panelState.currentFilterStack);
+    }
+
+    // Drags a row by its middle so that it comes to lie on another one.
+    function drag(name: string, to: int, atEnd: string): void {
+        const from = panelState.enhancementsModel.indexOfFilter(name) * list.pitch + 24;
+        const end = to * list.pitch + 24;
+        mousePress(list, 100, from);
+        for (let step = 1; step <= 10; ++step)
+            mouseMove(list, 100, from + (end - from) * step / 10, 10, Qt.LeftButton);
+        if (atEnd === "escape")
+            keyClick(Qt.Key_Escape);
+        mouseRelease(list, 100, end);
+        settle();
+    }
+
+    function choose(text: string): void {
+        const find = item => item?.text === text && item.triggered ? item : Array.from(item?.children ?? []).reduce((found, child) => found ?? find(child), null);
+        let item = null;
+        tryVerify(() => (item = find(list.Window.window.contentItem)) !== null && item.width > 0, 5000, text);
+        wait(50);
+        mouseClick(item);
+        settle();
+    }
+
+    function test_click_toggles_panel(): void {
+        mouseClick(row("Sharpen"), 100, 24);
+        compare([panelState.refiningFilter, view("Sharpen").visible, view("Denoise").visible], ["Sharpen", true, false]);
+        mouseClick(row("Denoise"), 100, 24);
+        compare([panelState.refiningFilter, view("Sharpen").visible, view("Denoise").visible], ["Denoise", false, true]);
+        compare([layer.sidebarOffset, view("Denoise").x + 252, view("Denoise").height], [252, width - 272, layer.height]);
+        mouseClick(row("Denoise"), 100, 24);
+        compare([panelState.refiningFilter, view("Denoise").visible, layer.sidebarOffset], ["", false, 0]);
+        controls.setParam("Sharpen", "enabled", false);
+        mouseClick(row("Sharpen"), 100, 24);
+        compare([actions.isEnabled("Sharpen"), controls.currentCategory], [true, "Sharpen"], "a hidden filter is shown first");
+    }
+
+    function test_row_buttons(): void {
+        mouseClick(row("Sharpen"), 100, 24);
+        mouseClick(row("Sharpen"), list.width - 72, 24);
+        compare([actions.isEnabled("Sharpen"), panelState.refiningFilter], [false, ""]);
+        mouseClick(row("Sharpen"), list.width - 72, 24);
+        compare([actions.isEnabled("Sharpen"), panelState.refiningFilter], [true, ""]);
+        mouseClick(row("Sharpen"), list.width - 24, 24);
+        compare(order(), ["Denoise", "Exposure Adjust", "Enhance"]);
+        verify(!controls.currentControls.Sharpen);
+    }
+
+    function test_row_menu(): void {
+        mouseClick(row("Denoise"), 100, 24, Qt.RightButton);
+        choose("Duplicate denoise");
+        compare(order(), ["Denoise", "Sharpen", "Exposure Adjust", "Denoise2", "Enhance"]);
+        mouseClick(row("Denoise2"), 100, 24, Qt.RightButton);
+        choose("Hide denoise");
+        verify(!actions.isEnabled("Denoise2"));
+        mouseClick(row("Denoise2"), 100, 24, Qt.RightButton);
+        choose("Remove all enhancements");
+        compare([order(), list.count], [[], 0]);
+    }
+
+    function test_locked_row_takes_no_mouse(): void {
+        controls.setParam("Sharpen", "locked", true);
+        mouseClick(row("Sharpen"), 100, 24);
+        mouseClick(row("Sharpen"), list.width - 24, 24);
+        compare([panelState.refiningFilter, order().length], ["", 4]);
+        drag("Sharpen", 0, "");
+        compare(order()[1], "Sharpen");
+    }
+
+    function test_drags_data(): var {
+        const before = ["Denoise", "Sharpen", "Exposure Adjust", "Enhance"];
+        return [
+            { tag: "down", drag: "Denoise", to: 2, order: ["Sharpen", "Exposure Adjust", "Denoise", "Enhance"], runs: 1 },
+            { tag: "up", drag: "Exposure Adjust", to: 0, order: ["Exposure Adjust", "Denoise", "Sharpen", "Enhance"], runs: 1 },
+            { tag: "onto Enhance", drag: "Denoise", to: 3, order: ["Sharpen", "Exposure Adjust", "Denoise", "Enhance"], runs: 1 },
+            { tag: "Enhance itself", drag: "Enhance", to: 0, order: before },
+            { tag: "onto RAW", filters: ["RAW", "Sharpen"], drag: "Sharpen", to: 0, order: ["RAW", "Sharpen"] },
+            { tag: "onto a locked one", locked: "Denoise", drag: "Sharpen", to: 0, order: before },
+            { tag: "a little", drag: "Denoise", to: 0.3, order: before },
+            { tag: "taken back", drag: "Denoise", to: 2, atEnd: "escape", order: before }
+        ];
+    }
+
+    function test_drags(row): void {
+        if (row.filters)
+            openWith(row.filters);
+        if (row.locked)
+            controls.setParam(row.locked, "locked", true);
+        settle();
+        forget();
+        drag(row.drag, row.to, row.atEnd ?? "");
+        compare([order(), panelState.enhancementsModel.names(), Array.from(controls.filterOrder)], [row.order, row.order, row.order]);
+        compare(parts.runs().length, row.runs ?? 0);
+    }
+
+    function test_keyboard_alone(): void {
+        list.forceActiveFocus(Qt.TabFocusReason);
+        list.currentIndex = 0;
+        keyClick(Qt.Key_Down);
+        keyClick(Qt.Key_Return);
+        compare(panelState.refiningFilter, "Sharpen");
+        keyClick(Qt.Key_Tab);
+        verify(!list.activeFocus, "Tab goes into the panel");
+        keyClick(Qt.Key_Escape);
+        compare([panelState.refiningFilter, list.activeFocus], ["", true]);
+        keyClick(Qt.Key_Up, Qt.AltModifier);
+        compare([order()[0], list.currentIndex], ["Sharpen", 0]);
+        keyClick(Qt.Key_F10, Qt.ShiftModifier);
+        wait(50);
+        keyClick(Qt.Key_Down);
+        wait(50);
+        keyClick(Qt.Key_Return);
+        verify(!actions.isEnabled("Sharpen"), "the menu's first entry");
+        keyClick(Qt.Key_Delete);
+        compare(order(), ["Denoise", "Exposure Adjust", "Enhance"]);
+    }
+
+    function test_panels_go_with_their_rows(): void {
+        const children = layer.children.length;
+        mouseClick(row("Sharpen"), 100, 24);
+        controls.setCurrentIndex(1);
+        settle();
+        compare([panelState.refiningFilter, list.count, layer.children.length], ["", 0, children - 4]);
+        for (let i = 0; i < 3; ++i) {
+            panelState.addNewFilterToHistory("Denoise", "Denoise", true);
+            verify(view("Denoise").visible, "opens with its row");
+            panelState.removeFilter(0, "Denoise");
+            compare([panelState.refiningFilter, layer.children.length], ["", children - 4]);
+        }
+    }
+
+    function test_row_without_panel(): void {
+        lines.begin();
+        panelState.addNewFilterToHistory("Face Recovery");
+        const logged = lines.end().join("\n");
+        verify(logged.includes("Error creating focus column object") && logged.includes("Refinement panel was not created."), logged);
+        tryVerify(() => row("Face Recovery") !== null);
+        compare([view("Face Recovery"), row("Face Recovery").subLine], [null, "No faces selected"]);
+    }
+
+    function test_editing_an_earlier_filter_is_told_once_an_opening(): void {
+        for (const [name, told] of [["Sharpen", 1], ["Enhance", 1], ["Sharpen", 2]]) {
+            actions.showRefinePanel(name);
+            controls.setParam(name, "p", Math.random());
+            controls.setParam(name, "p", Math.random());
+            compare(reports.count, told, name);
+        }
+        compare(reports.signalArguments[0][1], { filterOrder: "Denoise,Sharpen,Exposure Adjust,Enhance", editedFilter: "Sharpen", index: 1, numberFromTop: 2 });
+    }
+
+    function test_sub_lines_data(): var {
+        const subject = (model, strokes, mask = true) => ({ params: { mask }, subjectSettings: { model, strokes } });
+        return [
+            { tag: "no mask", category: "Sharpen", filter: subject("Subject", [], false), text: "" },
+            { tag: "all of the picture", category: "Sharpen", filter: subject("All", []), text: "" },
+            { tag: "drawn on all", category: "Sharpen", filter: subject("All", [{}]), text: "Custom" },
+            { tag: "subject", category: "Sharpen", filter: subject("Sky", []), text: "Sky" },
+            { tag: "none", category: "Sharpen", filter: subject("none", []), text: "Nothing selected" },
+            { tag: "no filter", category: "Sharpen", filter: undefined, text: "" },
+            { tag: "text", category: "Text Recovery", filter: {}, text: "Nothing selected" },
+            { tag: "all text", category: "Text Recovery", filter: { params: { strokes: [{ mode: "fill" }] } }, text: "All" },
+            { tag: "some text", category: "Text Recovery", filter: { params: { strokes: [{ mode: "fill" }, {}] } }, text: "Custom" },
+            { tag: "a face", category: "Face Recovery", filter: { params: { selectedFaces: [3] } }, text: "1 face selected" },
+            { tag: "faces", category: "Face Recovery", filter: { params: { selectedFaces: [0, 1] } }, text: "2 faces selected" }
+        ];
+    }
+
+    function test_sub_lines(row): void {
+        compare(Rules.subLine(row.category, row.filter, controls.categories), row.text);
+    }
+
+    function test_spinner_runs_while_a_run_begins(): void {
+        backends.scriptRuns(0.4, "Preparing", "");
+        backends.hold(["runs"]);
+        controls.setFilterOrder(order());
+        tryVerify(() => row("Sharpen").starting, 60000);
+        backends.hold([]);
+        tryVerify(() => !row("Sharpen").starting, 60000);
+        for (const [arguments_, shown] of [[[true, false, false, true, false], true], [[true, false, true, true, false], false], [[true, true, true, true, false], true], [[true, true, true, false, false], false], [[true, true, true, true, true], false]])
+            compare(Rules.showsSpinner(...arguments_), shown, arguments_);
+    }
+
+    function test_reasons_data(): var {
+        return [
+            { tag: "noise", category: "Denoise", reason: { measured: 12.04, threshold: 3.4, text: "t" }, sentence: "Noise measured: 12 of 255, from 3.4 on" },
+            { tag: "noise of a RAW file below the threshold", category: "RAW", reason: { measured: 1.239, threshold: 2, text: "t" }, sentence: "Noise measured: 1.24 of 255. t" },
+            { tag: "blur", category: "Sharpen", reason: { measured: 1.5, threshold: 1.15, text: "t" }, sentence: "Blur measured: 1.5 pixels, from 1.15 on" },
+            { tag: "small", category: "Enhance", reason: { measured: 2e6, threshold: 5333333, text: "t" }, sentence: "Size measured: 2 megapixels, up to 5.33" },
+            { tag: "size of the preferences", category: "Enhance", reason: { measured: 123456789, threshold: 5333333, text: "t" }, sentence: "Size measured: 123 megapixels. t" },
+            { tag: "dark", category: "Exposure Adjust", reason: { measured: 0.1, threshold: 0.2, text: "t" }, sentence: "Brightness measured: 10 %, up to 20 %" },
+            { tag: "bright", category: "Exposure Adjust", reason: { measured: 0.912, threshold: 0.85, text: "t" }, sentence: "Brightness measured: 91.2 %, from 85 % on" },
+            { tag: "cast", category: "White Balance Adjust", reason: { measured: 0.3, threshold: 0.25, text: "t" }, sentence: "Color cast measured: 35 %, from 28 % on" },
+            { tag: "no figures", category: "Denoise", reason: { text: "t" }, sentence: "t" },
+            { tag: "not a number", category: "Denoise", reason: { measured: NaN, threshold: 1 }, sentence: "" },
+            { tag: "another category", category: "Face Recovery", reason: { measured: 1, threshold: 1, text: "t" }, sentence: "t" },
+            { tag: "no reason", category: "Denoise", reason: undefined, sentence: "" }
+        ];
+    }
+
+    function test_reasons(row): void {
+        compare(Reasons.sentence(row.category, row.reason), row.sentence);
+    }
+}
