@@ -20,6 +20,7 @@ Flickable {
     signal chosen(var row)
     signal editPreset(string name)
     signal deletePreset(string name)
+    signal menuClosed // and has given the keyboard back if nothing else took it
 
     // Gives an entry the keyboard.
     function take(index: int): void {
@@ -45,6 +46,11 @@ Flickable {
             return true;
         }
         return _private.presetKey(key, modifiers);
+    }
+
+    // Places and sizes hold at once, and not from the next frame on.
+    function layOut(): void {
+        _column.forceLayout();
     }
 
     function closeMenu(): void {
@@ -88,6 +94,7 @@ Flickable {
         PresetMenu {
             onRename: name => _top.editPreset(name)
             onRemove: name => _top.deletePreset(name)
+            onClosed: Qt.callLater(_private.afterMenu)
         }
     }
 
@@ -116,7 +123,10 @@ Flickable {
         function keepCursor(): void {
             const index = Math.min(cursor, _top.rows.length - 1);
             cursor = -1;
+            _top.layOut();
             _top.take(index);
+            if (rowAt(index)?.entry.activeFocus)
+                cursor = index;
         }
 
         // Only the pointer's own movement counts, not that of the list under it.
@@ -143,6 +153,13 @@ Flickable {
             row.entry.forceActiveFocus();
             menu.preset = row.preset;
             menu.popup(row.entry, position);
+        }
+
+        function afterMenu(): void {
+            const holder = _top.Window.activeFocusItem;
+            if (_top.visible && (!holder || holder === _top.Window.contentItem))
+                _top.take(_top.table.indexOf(AddPanelTable.Kind.Preset, menu.preset));
+            _top.menuClosed();
         }
 
         function presetKey(key: int, modifiers: int): bool {

@@ -29,7 +29,7 @@ QtObject {
         function update(): void {
             hide();
             plane = PebbleStyle.tooltipPlane as PbTooltipPlane;
-            if (_top._shown === "" || !plane)
+            if (!_top.entry || _top._shown === "" || !plane)
                 return;
             tipId = plane.showTip({
                 "target": _top.entry,
