@@ -155,6 +155,7 @@ TestCase {
         compare(lit(), "Apply Autopilot");
         const inPanel = text => entry(text).mapToItem(panel, 0, 0).y;
         verify(inPanel("Apply Autopilot") + entry("Apply Autopilot").height <= panel.height);
+        compare(plane.currentTip.y, Math.min(panel.y + inPanel("Apply Autopilot"), plane.height - plane.currentTip.height - 10));
         keyClick(Qt.Key_Down);
         wait(50);
         compare(lit(), "p10");

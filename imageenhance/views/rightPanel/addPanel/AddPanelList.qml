@@ -57,6 +57,7 @@ Flickable {
         _private.menu?.close();
     }
 
+    onContentYChanged: _tip.update()
     onRowsChanged: Qt.callLater(_private.keepCursor)
     contentHeight: _column.implicitHeight
     interactive: contentHeight > height
@@ -65,6 +66,7 @@ Flickable {
     ScrollBar.vertical: PbScrollBar {}
 
     AddPanelTip {
+        id: _tip
         entry: _top.menuOpen ? null : _private.current?.entry ?? null
         panel: _top.tipEdge
         text: _private.current ? _top.tips.text(_private.current.modelData) : ""
@@ -72,7 +74,7 @@ Flickable {
 
     Column {
         id: _column
-        width: _top.width
+        width: _top.interactive ? _top.width - PebbleStyle.size.scrollBar : _top.width
 
         Repeater {
             id: _rows
@@ -112,8 +114,8 @@ Flickable {
 
         function move(row: AddPanelRow, active: bool): void {
             if (active) {
+                reveal(row); // the tip is placed beside it
                 cursor = row.index;
-                reveal(row);
             } else if (cursor === row.index) {
                 cursor = -1;
             }
