@@ -68,7 +68,7 @@ TestCase {
     }
 
     function offer(categories: list<string>): void {
-        controls.modelParamInfo = Object.fromEntries(categories.map(category => [category, { "Model": {} }]));
+        controls.modelParamInfo = categories.reduce((info, category) => Object.assign(info, { [category]: { "Model": {} } }), {});
     }
 
     function initTestCase(): void {
@@ -90,7 +90,7 @@ TestCase {
 
     // Of all that is seen in the panel.
     function found(item: Item, test: var): var {
-        return [...(test(item) ? [item] : []), ...Array.from(item.children).flatMap(child => found(child, test))];
+        return Array.from(item.children).reduce((all, child) => [...all, ...found(child, test)], test(item) ? [item] : []);
     }
 
     function entries(): list<AddPanelEntry> {
@@ -110,8 +110,8 @@ TestCase {
     }
 
     function test_key_walk_and_back_round(): void {
-        panel.presets = ["zebra", "Äpfel", "apple"];
-        const order = ["apple", "Äpfel", "zebra", "Denoise", "Sharpen", "Adjust lighting", "Balance color", "Face recovery", "Preserve text", "Upscale", "Remove", "Apply Autopilot"];
+        panel.presets = ["zebra", "mango", "apple"];
+        const order = ["apple", "mango", "zebra", "Denoise", "Sharpen", "Adjust lighting", "Balance color", "Face recovery", "Preserve text", "Upscale", "Remove", "Apply Autopilot"];
         compare([lit(), tip()], ["", ""]);
         for (const text of [...order, order[0]]) {
             keyClick(Qt.Key_Down);
@@ -144,6 +144,7 @@ TestCase {
 
     function test_keys_scroll_under_a_resting_pointer(): void {
         panel.presets = Array.from({ length: 30 }, (unused, i) => "p" + (i + 10));
+        wait(0);
         compare(panel.height, 800 - 48 - 48 - 2 - (Qt.platform.os === "windows" ? 32 : 0));
         panel.windowHeight = 500;
         panel.filesListHeight = 100;
@@ -154,6 +155,7 @@ TestCase {
         compare(lit(), "Apply Autopilot");
         const inPanel = text => entry(text).mapToItem(panel, 0, 0).y;
         verify(inPanel("Apply Autopilot") + entry("Apply Autopilot").height <= panel.height);
+        compare(plane.currentTip.y, Math.min(panel.y + inPanel("Apply Autopilot"), plane.height - plane.currentTip.height - 10));
         keyClick(Qt.Key_Down);
         wait(50);
         compare(lit(), "p10");
@@ -176,6 +178,7 @@ TestCase {
 
     function test_choices(row): void {
         panel.presets = ["mine"];
+        wait(0);
         mouseClick(entry(row.text));
         compare([log, panel.open], [row.said, row.stays === true]);
         panel.show();
@@ -253,6 +256,7 @@ TestCase {
 
     function test_preset_menu(row): void {
         panel.presets = ["b", "a"];
+        wait(0);
         panel.focusPreset("b");
         row.open(entry("b"));
         wait(300);
@@ -267,6 +271,7 @@ TestCase {
 
     function test_keys_of_presets(): void {
         panel.presets = ["b", "a"];
+        wait(0);
         panel.focusPreset("a");
         keyClick(Qt.Key_F2);
         keyClick(Qt.Key_Delete);

@@ -155,6 +155,6 @@ WindowParts {
     }
 
     function found(item: Item, test: var): var {
-        return [...(test(item) ? [item] : []), ...Array.from(item.children).flatMap(child => found(child, test))];
+        return Array.from(item.children).reduce((all, child) => [...all, ...found(child, test)], test(item) ? [item] : []);
     }
 }

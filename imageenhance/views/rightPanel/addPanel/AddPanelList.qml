@@ -20,6 +20,7 @@ Flickable {
     signal chosen(var row)
     signal editPreset(string name)
     signal deletePreset(string name)
+    signal menuClosed // and has given the keyboard back if nothing else took it
 
     // Gives an entry the keyboard.
     function take(index: int): void {
@@ -47,10 +48,16 @@ Flickable {
         return _private.presetKey(key, modifiers);
     }
 
+    // Places and sizes hold at once, and not from the next frame on.
+    function layOut(): void {
+        _column.forceLayout();
+    }
+
     function closeMenu(): void {
         _private.menu?.close();
     }
 
+    onContentYChanged: _tip.update()
     onRowsChanged: Qt.callLater(_private.keepCursor)
     contentHeight: _column.implicitHeight
     interactive: contentHeight > height
@@ -59,6 +66,7 @@ Flickable {
     ScrollBar.vertical: PbScrollBar {}
 
     AddPanelTip {
+        id: _tip
         entry: _top.menuOpen ? null : _private.current?.entry ?? null
         panel: _top.tipEdge
         text: _private.current ? _top.tips.text(_private.current.modelData) : ""
@@ -66,7 +74,7 @@ Flickable {
 
     Column {
         id: _column
-        width: _top.width
+        width: _top.interactive ? _top.width - PebbleStyle.size.scrollBar : _top.width
 
         Repeater {
             id: _rows
@@ -88,6 +96,7 @@ Flickable {
         PresetMenu {
             onRename: name => _top.editPreset(name)
             onRemove: name => _top.deletePreset(name)
+            onClosed: Qt.callLater(_private.afterMenu)
         }
     }
 
@@ -105,8 +114,8 @@ Flickable {
 
         function move(row: AddPanelRow, active: bool): void {
             if (active) {
+                reveal(row); // the tip is placed beside it
                 cursor = row.index;
-                reveal(row);
             } else if (cursor === row.index) {
                 cursor = -1;
             }
@@ -116,7 +125,10 @@ Flickable {
         function keepCursor(): void {
             const index = Math.min(cursor, _top.rows.length - 1);
             cursor = -1;
+            _top.layOut();
             _top.take(index);
+            if (rowAt(index)?.entry.activeFocus)
+                cursor = index;
         }
 
         // Only the pointer's own movement counts, not that of the list under it.
@@ -143,6 +155,13 @@ Flickable {
             row.entry.forceActiveFocus();
             menu.preset = row.preset;
             menu.popup(row.entry, position);
+        }
+
+        function afterMenu(): void {
+            const holder = _top.Window.activeFocusItem;
+            if (_top.visible && (!holder || holder === _top.Window.contentItem))
+                _top.take(_top.table.indexOf(AddPanelTable.Kind.Preset, menu.preset));
+            _top.menuClosed();
         }
 
         function presetKey(key: int, modifiers: int): bool {

@@ -11,8 +11,23 @@ QtObject {
 
     readonly property string _shown: entry ? text : ""
 
-    on_ShownChanged: _private.update()
-    onEntryChanged: _private.update()
+    // Also to move it to where its entry is now.
+    function update(): void {
+        _private.hide();
+        _private.plane = PebbleStyle.tooltipPlane as PbTooltipPlane;
+        if (!_top.entry || _top._shown === "" || !_private.plane)
+            return;
+        _private.tipId = _private.plane.showTip({
+            "target": _top.entry,
+            "targetForX": _top.panel,
+            "text": _top._shown,
+            "textFormat": Text.RichText,
+            "alignment": PbTooltipPlane.Alignment.Left
+        });
+    }
+
+    on_ShownChanged: update()
+    onEntryChanged: update()
     Component.onDestruction: _private.hide()
 
     readonly property QtObject _private: QtObject {
@@ -24,20 +39,6 @@ QtObject {
         function hide(): void {
             plane?.hideTip(tipId);
             plane = null;
-        }
-
-        function update(): void {
-            hide();
-            plane = PebbleStyle.tooltipPlane as PbTooltipPlane;
-            if (_top._shown === "" || !plane)
-                return;
-            tipId = plane.showTip({
-                "target": _top.entry,
-                "targetForX": _top.panel,
-                "text": _top._shown,
-                "textFormat": Text.RichText,
-                "alignment": PbTooltipPlane.Alignment.Left
-            });
         }
     }
 }

@@ -43,6 +43,7 @@ FocusScope {
         closeRefineMode();
         _private.used = true;
         _private.open = true;
+        _list.layOut();
         updatePosition();
         clearFocus();
     }
@@ -53,6 +54,7 @@ FocusScope {
         const hadFocus = activeFocus || _list.menuOpen;
         _list.closeMenu();
         _private.open = false;
+        _rest.focus = true; // hiding alone leaves the keyboard with the entry
         if (hadFocus)
             focusWanted();
     }
@@ -114,6 +116,7 @@ FocusScope {
     onBottomLimitChanged: _private.follow()
     onPanelCollapsedChanged: hide()
     onActiveFocusChanged: Qt.callLater(_private.hideWithoutFocus)
+    Keys.enabled: open
     Keys.onEscapePressed: hide()
     Keys.onPressed: event => event.accepted = _list.key(event.key, event.modifiers)
 
@@ -146,6 +149,7 @@ FocusScope {
         onChosen: row => _private.choose(row)
         onEditPreset: name => _top.editPreset(name)
         onDeletePreset: name => _top.deletePreset(name)
+        onMenuClosed: _private.hideWithoutFocus()
     }
     Item {
         id: _rest
