@@ -103,8 +103,15 @@ WindowParts {
         stack.clearEditsColumn();
     }
 
+    // The card goes before its list.
+    function cleanup(): void {
+        parts.card?.destroy();
+        parts.card = null;
+        wait(0);
+    }
+
     function offer(categories: list<string>): void {
-        parts.controls.setModelParamInfo(Object.fromEntries(categories.map(category => [category, { m: {} }])));
+        parts.controls.setModelParamInfo(categories.reduce((all, category) => Object.assign(all, { [category]: { m: {} } }), {}));
     }
 
     // Two pictures, the first of which has been analysed with this answer.
@@ -234,7 +241,7 @@ WindowParts {
 
     function shown(answer: var): void {
         analysed(answer);
-        parts.card = createTemporaryObject(cards, place) as SuggestiveAutoPilotCard;
+        parts.card = cards.createObject(place) as SuggestiveAutoPilotCard;
         waitForRendering(parts.card);
         wait(250); // until the rows have come in
     }
@@ -281,6 +288,7 @@ WindowParts {
         mouseMove(subject, 4, 4);
         compare(parts.log, [[true, "Subject"]]);
         mouseClick(subject, 4, 4);
+        tryVerify(() => parts.log.length === 3);
         compare(parts.log.slice(1), [["Sharpen", "Subject"], [false, "Subject"]]);
         mouseClick(named("Denoise all"));
         compare(parts.log.length, 3, "not while the next is looked for");

@@ -27,7 +27,7 @@ ListView {
 
         width: ListView.view.width
         suggestions: _top.suggestions
-        focusPolicy: _top.cursor.stop === _row ? Qt.TabFocus : Qt.NoFocus
+        focusPolicy: _top.cursor.focusPolicy(_row)
         onHoverSubject: (show, subject) => _top.hoverSubject(show, subject)
         onActiveFocusChanged: {
             if (activeFocus)
