@@ -11,6 +11,7 @@ Column {
     required property SuggestionCursor cursor
 
     readonly property list<Item> stops: [_how, _save, _apply]
+    readonly property bool hasButton: suggestions.canSavePreset || suggestions.canApplyRecommendations
 
     signal saveAsPreset
     signal applyAutopilot
