@@ -133,16 +133,13 @@ WindowParts {
         return Array.from(parts.controls.autoPilotSuggestionOrder).map(({ filterName, subject }) => filterName + "-" + subject);
     }
 
-    function test_subjects_collapse_data(): var {
-        return [
-            { tag: "both", given: ["S-Sky", "S-Background", "D-All", "S-Subject"], made: ["S-Subject", "S-Background", "S-All", "D-All"] },
-            { tag: "one of the two", given: ["S-Subject", "D-All", "S-Subject", "S-Sky"], made: ["S-Subject", "S-Sky", "D-All"] },
-            { tag: "without a subject", given: ["E-", "E-", "C"], made: ["E-", "C"] }
-        ];
-    }
-
-    function test_subjects_collapse(row): void {
-        compare(Suggestions.collapseSubject(row.given), row.made);
+    function test_subjects_collapse(): void {
+        for (const [name, given, made] of [
+            ["both", ["S-Sky", "S-Background", "D-All", "S-Subject"], ["S-Subject", "S-Background", "S-All", "D-All"]],
+            ["one of the two", ["S-Subject", "D-All", "S-Subject", "S-Sky"], ["S-Subject", "S-Sky", "D-All"]],
+            ["without a subject", ["E-", "E-", "C"], ["E-", "C"]]
+        ])
+            compare(Suggestions.collapseSubject(given), made, name);
     }
 
     function test_applied_and_excluded_data(): var {

@@ -116,7 +116,7 @@ Rectangle {
         SuggestionFooter {
             id: _footer
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-            bottomPadding: hasButton ? PebbleStyle.size.spacing : PebbleStyle.size.spacingLarge
+            bottomPadding: _footer.hasButton ? PebbleStyle.size.spacing : PebbleStyle.size.spacingLarge
             suggestions: _top.suggestions
             cursor: _cursor
             onSaveAsPreset: _top.saveAsPreset()
