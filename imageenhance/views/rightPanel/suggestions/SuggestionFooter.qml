@@ -22,7 +22,7 @@ Column {
         id: _how
 
         anchors.horizontalCenter: parent.horizontalCenter
-        height: 20
+        height: 16
         implicitWidth: implicitContentWidth
         focusPolicy: _top.cursor.focusPolicy(_how)
         Accessible.role: Accessible.StaticText

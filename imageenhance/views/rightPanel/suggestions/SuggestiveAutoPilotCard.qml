@@ -17,8 +17,8 @@ Rectangle {
     signal expandPanel
     signal hoverSubject(show: bool, subject: string)
 
-    readonly property int _headerHeight: _state.filled ? 52 : 30
-    readonly property int _footerHeight: 60
+    readonly property int _headerHeight: _state.filled ? 56 : 34
+    readonly property int _footerHeight: 56
 
     width: collapsed ? 48 : 272
     height: collapsed ? 48 : minimized ? 36 : _state.filled ? _headerHeight + _footerHeight + 46 * _state.places : 90
