@@ -30,10 +30,10 @@ export function collapseSubject(entries) {
         const base = entry.split("-", 1)[0];
         groups.set(base, (groups.get(base) ?? new Set()).add(entry));
     }
-    return [...groups].flatMap(([base, group]) => {
+    return joined([...groups].map(([base, group]) => {
         const both = [base + "-Subject", base + "-Background"];
         return both.every(entry => group.has(entry)) ? [...both, base + "-All"] : [...group];
-    });
+    }));
 }
 
 // `subjectOf` gives the subject's model of a filter by its name.
@@ -44,8 +44,8 @@ export function appliedFilters(order, subjectOf) {
 
 // `unavailable` are entries that can't be suggested whatever the image has.
 export function excludedFilters(unavailable, existing, order, subjectOf) {
-    const besideExisting = Array.from(existing).flatMap(({ filterName, subject }) =>
-        [...(excludedWith[subject] ?? []), subject].map(word => filterName + "-" + word));
+    const besideExisting = joined(Array.from(existing).map(({ filterName, subject }) =>
+        [...(excludedWith[subject] ?? []), subject].map(word => filterName + "-" + word)));
     const applied = Array.from(order).map(name => categoryOf(name) === raw ? "Denoise-All" : entryOf(name, subjectOf));
     return collapseSubject([...unavailable, ...besideExisting, ...applied]);
 }
@@ -60,6 +60,10 @@ export function sentence(label, subject, divided) {
         subject: word,
         after: space < 0 ? "" : label.slice(space + 1)
     };
+}
+
+function joined(lists) {
+    return [].concat(...lists);
 }
 
 function entryOf(name, subjectOf) {

@@ -103,8 +103,15 @@ WindowParts {
         stack.clearEditsColumn();
     }
 
+    // The card goes before its list.
+    function cleanup(): void {
+        parts.card?.destroy();
+        parts.card = null;
+        wait(0);
+    }
+
     function offer(categories: list<string>): void {
-        parts.controls.setModelParamInfo(Object.fromEntries(categories.map(category => [category, { m: {} }])));
+        parts.controls.setModelParamInfo(categories.reduce((all, category) => Object.assign(all, { [category]: { m: {} } }), {}));
     }
 
     // Two pictures, the first of which has been analysed with this answer.
@@ -126,16 +133,13 @@ WindowParts {
         return Array.from(parts.controls.autoPilotSuggestionOrder).map(({ filterName, subject }) => filterName + "-" + subject);
     }
 
-    function test_subjects_collapse_data(): var {
-        return [
-            { tag: "both", given: ["S-Sky", "S-Background", "D-All", "S-Subject"], made: ["S-Subject", "S-Background", "S-All", "D-All"] },
-            { tag: "one of the two", given: ["S-Subject", "D-All", "S-Subject", "S-Sky"], made: ["S-Subject", "S-Sky", "D-All"] },
-            { tag: "without a subject", given: ["E-", "E-", "C"], made: ["E-", "C"] }
-        ];
-    }
-
-    function test_subjects_collapse(row): void {
-        compare(Suggestions.collapseSubject(row.given), row.made);
+    function test_subjects_collapse(): void {
+        for (const [name, given, made] of [
+            ["both", ["S-Sky", "S-Background", "D-All", "S-Subject"], ["S-Subject", "S-Background", "S-All", "D-All"]],
+            ["one of the two", ["S-Subject", "D-All", "S-Subject", "S-Sky"], ["S-Subject", "S-Sky", "D-All"]],
+            ["without a subject", ["E-", "E-", "C"], ["E-", "C"]]
+        ])
+            compare(Suggestions.collapseSubject(given), made, name);
     }
 
     function test_applied_and_excluded_data(): var {
@@ -234,7 +238,7 @@ WindowParts {
 
     function shown(answer: var): void {
         analysed(answer);
-        parts.card = createTemporaryObject(cards, place) as SuggestiveAutoPilotCard;
+        parts.card = cards.createObject(place) as SuggestiveAutoPilotCard;
         waitForRendering(parts.card);
         wait(250); // until the rows have come in
     }
@@ -281,6 +285,7 @@ WindowParts {
         mouseMove(subject, 4, 4);
         compare(parts.log, [[true, "Subject"]]);
         mouseClick(subject, 4, 4);
+        tryVerify(() => parts.log.length === 3);
         compare(parts.log.slice(1), [["Sharpen", "Subject"], [false, "Subject"]]);
         mouseClick(named("Denoise all"));
         compare(parts.log.length, 3, "not while the next is looked for");

@@ -11,6 +11,11 @@ QtObject {
     // The one that Tab reaches. Null while nothing can be reached.
     readonly property Item stop: _private.at?.visible ? _private.at : rows.currentItem ?? after.find(item => item.visible) ?? before[0] ?? null
 
+    // What has the focus stays reachable until it has lost it.
+    function focusPolicy(item: Item): int {
+        return item === stop || item.activeFocus ? Qt.TabFocus : Qt.NoFocus;
+    }
+
     function stops(): list<Item> {
         const inRows = Array.from({ length: rows.count }, (_, i) => _top.rows.itemAtIndex(i)).filter(item => item !== null);
         return [...before, ...inRows, ...after].filter(item => item.visible);

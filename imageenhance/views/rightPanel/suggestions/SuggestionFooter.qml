@@ -8,9 +8,10 @@ Column {
     id: _top
 
     required property SuggestionList suggestions
-    required property Item stop // what Tab reaches
+    required property SuggestionCursor cursor
 
     readonly property list<Item> stops: [_how, _save, _apply]
+    readonly property bool hasButton: suggestions.canSavePreset || suggestions.canApplyRecommendations
 
     signal saveAsPreset
     signal applyAutopilot
@@ -21,11 +22,11 @@ Column {
         id: _how
 
         anchors.horizontalCenter: parent.horizontalCenter
-        height: 20
+        height: 16
         implicitWidth: implicitContentWidth
-        focusPolicy: _top.stop === _how ? Qt.TabFocus : Qt.NoFocus
+        focusPolicy: _top.cursor.focusPolicy(_how)
         Accessible.role: Accessible.StaticText
-        Accessible.name: _question.text
+        Accessible.name: qsTr("How do we make suggestions?")
         Accessible.description: _tip.text.replace(/<br>/g, "")
         Accessible.focusable: true
 
@@ -37,15 +38,16 @@ Column {
         }
         contentItem: PbText {
             id: _question
-            text: qsTr("How do we make suggestions?")
+            text: "<u>" + PebbleStyle.escaped(_how.Accessible.name) + "</u>"
+            textFormat: Text.StyledText
             type: PbLabel.Type.Label
             color: PebbleStyle.color.lightGray
-            font.underline: true
         }
 
         PbHoverTip {
             id: _tip
             textFormat: Text.StyledText
+            hugContents: true
             text: qsTr("Suggestions are generated using <br>Autopilot image analysis, your editing <br>history and our recommendation engine.")
         }
     }
@@ -58,7 +60,7 @@ Column {
         compact: true
         iconSource: PebbleStyle.icon.presetSave
         text: qsTr("Save edits as a new preset")
-        focusPolicy: _top.stop === _save ? Qt.TabFocus : Qt.NoFocus
+        focusPolicy: _top.cursor.focusPolicy(_save)
         onClicked: _top.saveAsPreset()
     }
     PbButton {
@@ -69,7 +71,7 @@ Column {
         type: PbButton.Type.Secondary
         compact: true
         text: qsTr("Apply recommendations")
-        focusPolicy: _top.stop === _apply ? Qt.TabFocus : Qt.NoFocus
+        focusPolicy: _top.cursor.focusPolicy(_apply)
         onClicked: {
             _top.applyAutopilot();
             _top.suggestions.regenerate();

@@ -27,7 +27,7 @@ ListView {
 
         width: ListView.view.width
         suggestions: _top.suggestions
-        focusPolicy: _top.cursor.stop === _row ? Qt.TabFocus : Qt.NoFocus
+        focusPolicy: _top.cursor.focusPolicy(_row)
         onHoverSubject: (show, subject) => _top.hoverSubject(show, subject)
         onActiveFocusChanged: {
             if (activeFocus)
@@ -36,11 +36,12 @@ ListView {
         onClicked: _private.take(_row)
     }
 
-    footer: Row {
-        topPadding: _top.count > 0 ? _top.spacing : 0
-        leftPadding: PebbleStyle.size.spacing
+    // Behind the rows, which slide over its place.
+    Row {
+        x: PebbleStyle.size.spacing
+        y: _top.count * (_top.rowHeight + _top.spacing)
+        z: -1
         spacing: PebbleStyle.size.spacing
-        height: visible ? _top.rowHeight + topPadding : 0
         visible: _top.suggestions.showAnalysisLoader
 
         PbBusySpinner {

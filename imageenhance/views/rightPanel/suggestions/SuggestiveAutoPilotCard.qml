@@ -17,8 +17,8 @@ Rectangle {
     signal expandPanel
     signal hoverSubject(show: bool, subject: string)
 
-    readonly property int _headerHeight: _state.filled ? 48 : 26
-    readonly property int _footerHeight: 64
+    readonly property int _headerHeight: _state.filled ? 56 : 34
+    readonly property int _footerHeight: 56
 
     width: collapsed ? 48 : 272
     height: collapsed ? 48 : minimized ? 36 : _state.filled ? _headerHeight + _footerHeight + 46 * _state.places : 90
@@ -98,7 +98,7 @@ Rectangle {
             compact: true
             iconSource: PebbleStyle.icon.close
             Accessible.name: qsTr("Hide suggestions")
-            focusPolicy: _cursor.stop === _close ? Qt.TabFocus : Qt.NoFocus
+            focusPolicy: _cursor.focusPolicy(_close)
             onClicked: {
                 const focused = _close.activeFocus;
                 _top.minimized = true;
@@ -116,9 +116,9 @@ Rectangle {
         SuggestionFooter {
             id: _footer
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-            bottomPadding: PebbleStyle.size.spacing
+            bottomPadding: _footer.hasButton ? PebbleStyle.size.spacing : PebbleStyle.size.spacingLarge
             suggestions: _top.suggestions
-            stop: _cursor.stop
+            cursor: _cursor
             onSaveAsPreset: _top.saveAsPreset()
             onApplyAutopilot: _top.applyAutopilot()
         }

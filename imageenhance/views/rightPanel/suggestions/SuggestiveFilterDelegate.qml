@@ -46,7 +46,7 @@ T.AbstractButton {
     }
 
     contentItem: Item {
-        clip: _top.height < _top.implicitHeight
+        clip: _words.height > height
 
         PbIcon {
             id: _icon
@@ -73,12 +73,9 @@ T.AbstractButton {
                 text: _state.words.subject
                 width: Math.min(implicitWidth, _words.width)
                 color: PebbleStyle.color.textBlue
-                font.underline: _hover.hovered
 
                 HoverHandler {
                     id: _hover
-                    enabled: !_state.leaving // ends the preview of the subject
-                    onHoveredChanged: _top.hoverSubject(hovered, _top.subject)
                 }
             }
             PbText {
@@ -101,6 +98,7 @@ T.AbstractButton {
                 PbHoverTip {
                     id: _tiff
                     textFormat: Text.StyledText
+                    hugContents: true
                     text: qsTr("RAW images will be converted to TIFF <br>when exporting with this enhancement")
                 }
             }
@@ -116,10 +114,13 @@ T.AbstractButton {
         id: _state
 
         property bool leaving: false
+        readonly property bool subjectHovered: _hover.hovered && !leaving
         readonly property string category: _top.suggestions.categoryOf(_top.filterType)
         readonly property bool lightOrColor: [_top.suggestions.controls.categories.exposure, _top.suggestions.controls.categories.whiteBalance].includes(category)
         readonly property bool becomesTiff: lightOrColor && _top.suggestions.controls.isRaw
         readonly property var words: Suggestions.sentence(_top.filterType, _top.subject, lightOrColor)
         readonly property string sentence: [words.before, words.article ? qsTr("the") : "", words.subject, words.after].filter(word => word !== "").join(" ")
+
+        onSubjectHoveredChanged: _top.hoverSubject(subjectHovered, _top.subject)
     }
 }
