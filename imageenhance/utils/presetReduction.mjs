@@ -5,7 +5,9 @@ const BANNED = ["RAW", "Inpaint"];
 const FACES = ["highConfidenceFaces", "lowConfidenceFaces", "selectedFaces"];
 const SIZES = ["height", "width", "scale"];
 
-const isMap = value => value !== null && typeof value === "object" && !Array.isArray(value);
+// Lists of the native side are no arrays.
+const isList = value => Array.isArray(value) || (value !== null && typeof value === "object" && typeof value.length === "number");
+const isMap = value => value !== null && typeof value === "object" && !isList(value);
 
 const merged = (map, entries) => Object.assign({}, map, entries);
 
@@ -22,8 +24,8 @@ export function categoryOf(name, controls) {
 
 // A map of filters in an order, each with a category: what a damaged file doesn't have.
 export function isSound(preset) {
-    return isMap(preset?.controls) && Array.isArray(preset.filterOrder)
-        && preset.filterOrder.every(name => isMap(preset.controls[name]) && Boolean(preset.controls[name].category));
+    return isMap(preset?.controls) && isList(preset.filterOrder)
+        && Array.from(preset.filterOrder).every(name => isMap(preset.controls[name]) && Boolean(preset.controls[name].category));
 }
 
 function reducedFilter(category, filter) {
@@ -67,7 +69,7 @@ export function reduced(preset) {
         controls[name] = kept.filter;
         modified = modified || kept.modified;
     }
-    const filterOrder = Array.from(preset.filterOrder ?? []).filter(name => !isBanned(name));
+    const filterOrder = (isList(preset.filterOrder) ? Array.from(preset.filterOrder) : []).filter(name => !isBanned(name));
     return { preset: merged(preset, { controls, filterOrder }), modified };
 }
 
@@ -81,8 +83,8 @@ export function partOf(category, filter) {
 
 // One text for equal contents, however their keys are ordered and numbers that no file can hold are written.
 function canonical(value) {
-    if (Array.isArray(value))
-        return value.map(canonical);
+    if (isList(value))
+        return Array.from(value, canonical);
     if (!isMap(value))
         return value ?? null;
     return Object.keys(value).sort().map(key => [key, canonical(value[key])]);

@@ -228,6 +228,11 @@ WindowParts {
         compare(rules.index(), row.target === "/b.jpg" ? 1 : 0);
     }
 
+    function laidOut(owner: Menu): void {
+        tryVerify(() => owner.opened && owner.contentItem.contentHeight > 0, 60000);
+        waitForPolish(owner.contentItem);
+    }
+
     // The row of a menu with this text.
     function entry(owner: Menu, text: string): MenuItem {
         return Array.from({ length: owner.count }, (unused, i) => owner.itemAt(i)).find(item => item.text === text);
@@ -248,7 +253,7 @@ WindowParts {
         controls.setParam("Denoise", "enabled", true);
         controls.setFilterOrder(["Denoise"]);
         menu.showAtPoint(Qt.point(100, 20), row.path ?? "");
-        tryVerify(() => menu.opened, 60000);
+        laidOut(menu);
         compare(menu.targetImagePath, row.path ?? "/a.jpg");
         let at = menu;
         for (const text of row.way) {
@@ -257,7 +262,7 @@ WindowParts {
             mouseClick(item);
             if (item.subMenu) {
                 at = item.subMenu;
-                tryVerify(() => at.opened, 60000);
+                laidOut(at);
             }
         }
         tryVerify(() => !menu.visible, 60000);

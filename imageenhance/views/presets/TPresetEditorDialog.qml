@@ -63,6 +63,7 @@ QueuedDialog {
     ]
     onAboutToShow: {
         _private.failedName = "";
+        _private.taken = Array.from(presets.presets);
         _field.text = _state.ownName;
     }
     onOpened: {
@@ -146,7 +147,7 @@ QueuedDialog {
 
     PresetNameRules {
         id: _rules
-        taken: _top.presets.presets
+        taken: _private.taken
         ownName: _state.ownName
     }
 
@@ -159,5 +160,6 @@ QueuedDialog {
     QtObject {
         id: _private
         property string failedName // that could not be written
+        property var taken: [] // when the dialog opened: what it saves itself is no obstacle
     }
 }
