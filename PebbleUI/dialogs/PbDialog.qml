@@ -84,7 +84,14 @@ Dialog {
 
     // With a ring, so that it is seen what Return will press. A dialog that begins with a field moves the
     // focus there in a handler of its own.
-    onOpened: _buttons.defaultButton()?.forceActiveFocus(Qt.TabFocusReason)
+    onOpened: {
+        const button = _buttons.defaultButton();
+        if (!button)
+            return;
+        button.forceActiveFocus(Qt.TabFocusReason);
+        // Where the dialog was opened before, the button has the focus again by itself, for another reason.
+        button.focusReason = Qt.TabFocusReason;
+    }
 
     // Once a field has let the keyboard go it rests on the dialog itself, where no document sees a key.
     Shortcut {

@@ -44,6 +44,7 @@ PbMenu {
     }
     readonly property bool _pluginMode: windowState.pluginMode
 
+    width: 248 // for its longest row and the key
     margins: PebbleStyle.size.spacing
     onVisibleChanged: {
         targetImagePath = controls.currentImage;

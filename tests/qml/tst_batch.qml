@@ -198,6 +198,7 @@ WindowParts {
             row.ask();
             row.ask();
             tryVerify(() => dialog.opened && dialog.settled, 60000);
+            verify(dialog.contentItem.Window.activeFocusItem.visualFocus, "it is seen what Return presses, each time");
             answers[answer]();
             tryVerify(() => !dialog.visible, 60000);
             compare([log, dialogQueue.count], [answer === "" ? [] : [answer], 0], "withdrawn without an answer where another image is current");

@@ -69,7 +69,7 @@ PbBox {
                     visible: text !== ""
                     text: _row.part
                     type: PbLabel.Type.Label
-                    color: PebbleStyle.color.lightGray
+                    color: PebbleStyle.color.textQuiet
                 }
             }
         }
