@@ -22,6 +22,8 @@ PbLabeledSlider {
         return typeof value === "number" ? value : fallback;
     }
 
+    readonly property real _shown: Math.max(from, Math.min(to, Percent.shown(_stored)))
+
     // -1 is no value of a slider but for one that goes below zero.
     readonly property real _noMark: from > -1 ? -1 : -Infinity
 
@@ -29,7 +31,7 @@ PbLabeledSlider {
     enabled: !control.locked
     from: 1
     to: 100
-    value: Percent.shown(_stored)
+    value: _shown
     defaultValue: Math.max(from, Percent.shown(fallback))
     autoValue: marked ? Percent.suggestion(control.record.autoParams[key], markFrom, markTo, _noMark) : _noMark
 
@@ -46,21 +48,25 @@ PbLabeledSlider {
 
         property bool ready: false
 
-        // A filter that was removed is not brought back.
         function write(): void {
-            const record = _top.control.record;
-            if (!ready || !record.exists)
+            if (!ready || !(_top.alwaysWrites || Percent.differs(_top._stored, _top.value, _top.from)))
                 return;
-            if (!_top.alwaysWrites && !Percent.differs(_top._stored, _top.value, _top.from))
+            if (_top.value !== _top._shown)
+                store();
+            else if (_top.value / 100 !== _top._stored)
+                Qt.callLater(store); // what changed the slider is the model, which is still telling of its change
+        }
+
+        // A filter that was removed is not brought back.
+        function store(): void {
+            if (!_top.control.record.exists)
                 return;
+            const value = _top.value / 100;
             const controls = _top.control.controls;
             if (_top.mirrorKey === "")
-                controls.setParam(_top.control.filterName, _top.key, _top.value / 100);
+                controls.setParam(_top.control.filterName, _top.key, value);
             else
-                controls.setParams(_top.control.filterName, {
-                    [_top.key]: _top.value / 100,
-                    [_top.mirrorKey]: _top.value / 100
-                });
+                controls.setParams(_top.control.filterName, { [_top.key]: value, [_top.mirrorKey]: value });
         }
     }
 }

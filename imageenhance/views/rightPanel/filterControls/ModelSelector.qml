@@ -51,7 +51,10 @@ FocusScope {
             enabled: _top.enabled
 
             TapHandler {
-                onDoubleTapped: _top.reset()
+                onTapped: {
+                    if (_clicks.press(Date.now()))
+                        _top.reset();
+                }
             }
             Loader {
                 anchors { left: parent.right; leftMargin: PebbleStyle.size.spacingSmall; verticalCenter: parent.verticalCenter }
@@ -76,6 +79,11 @@ FocusScope {
             Accessible.name: _label.text
             onActivated: index => _top.chosen(_top._offered[index].value)
         }
+    }
+
+    PbDoublePress {
+        id: _clicks
+        interval: PebbleStyle.time.doublePress
     }
 
     PbHoverTip {
