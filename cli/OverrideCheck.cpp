@@ -1,8 +1,7 @@
 #include "cli/OverrideCheck.h"
 
 #include "contracts/FilterNames.h"
-
-#include <algorithm>
+#include "model/ParameterBounds.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,15 +24,13 @@ QString valueProblem(const QString &value, const QVariantMap &parameter) {
     const double number = value.toDouble(&isNumber);
     if (!isNumber)
         return u"takes a number, not \"%1\"; %2 is used"_s.arg(value, initial.toString());
-    if (!parameter.contains(Keys::Minimum) || !parameter.contains(Keys::Maximum))
-        return {};
-    // 0 stands for "off" everywhere.
-    const double least = parameter.value(Keys::Minimum).toDouble();
-    const double most = parameter.value(Keys::Maximum).toDouble();
-    const double taken = std::clamp(number, std::min(least, 0.0), std::max(most, 0.0));
+    const double taken = ParameterBounds::clamped(number, parameter);
     if (taken == number)
         return {};
-    return u"goes from %1 to %2; %3 is taken as %4"_s.arg(least).arg(most).arg(value).arg(taken);
+    return u"goes from %1 to %2; %3 is taken as %4"_s.arg(parameter.value(Keys::Minimum).toDouble())
+        .arg(parameter.value(Keys::Maximum).toDouble())
+        .arg(value)
+        .arg(taken);
 }
 
 QString sizeProblem(const Override &setting, const QString &mode) {
