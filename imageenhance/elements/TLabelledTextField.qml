@@ -34,9 +34,8 @@ PbBox {
     implicitHeight: PebbleStyle.size.fieldHeight
     radius: PebbleStyle.size.smallRadius
     color: PebbleStyle.color.darkerGray
-    opacity: enabled ? 1 : PebbleStyle.size.disabledOpacity
     border.width: inputFocus ? PebbleStyle.size.focusRing : highlight ? PebbleStyle.size.border : 0
-    border.color: invalid ? PebbleStyle.color.primeRed : PebbleStyle.color.primeBlue
+    border.color: invalid ? PebbleStyle.color.primeRed : enabled ? PebbleStyle.color.primeBlue : PebbleStyle.color.gray
     onValueChanged: _private.showValue()
     onDecimalsChanged: _private.showValue()
     Component.onCompleted: _private.showValue()
@@ -50,7 +49,7 @@ PbBox {
         x: PebbleStyle.size.fieldPadding
         height: parent.height
         text: _top.label
-        color: PebbleStyle.color.textQuiet
+        color: enabled ? PebbleStyle.color.textQuiet : PebbleStyle.color.textDisabled
     }
 
     PbTextField {
@@ -83,7 +82,9 @@ PbBox {
     Loader {
         id: _unitLoader
         anchors.right: parent.right
-        height: parent.height
+        anchors.rightMargin: PebbleStyle.size.focusRing // the border is not covered
+        y: PebbleStyle.size.focusRing
+        height: parent.height - 2 * y
         sourceComponent: _private.units.includes(_top.unit) ? _selector : _fixedUnit
     }
 
@@ -93,7 +94,7 @@ PbBox {
         PbText {
             rightPadding: PebbleStyle.size.fieldPadding
             text: _top.unit
-            color: PebbleStyle.color.textQuiet
+            color: enabled ? PebbleStyle.color.textQuiet : PebbleStyle.color.textDisabled
         }
     }
 

@@ -1,4 +1,4 @@
-import PebbleUI
+import QtQml
 
 // A side of a picture, or a factor.
 TLabelledTextField {

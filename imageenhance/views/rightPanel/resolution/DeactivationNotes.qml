@@ -14,16 +14,14 @@ ColumnLayout {
     required property ResolutionState resolution
 
     spacing: PebbleStyle.size.spacing
-    visible: _sharpen.visible || _denoise.visible
+    visible: _private.sharpen || _private.denoise
 
     LinkedNote {
-        id: _sharpen
-        visible: _private.leftOut(_top.controls.categories.sharpen)
+        visible: _private.sharpen
         note: qsTr("Deactivating Sharpen because this filter can handle moderate blur.")
     }
     LinkedNote {
-        id: _denoise
-        visible: _private.leftOut(_top.controls.categories.denoise) || _private.leftOut(_top.controls.categories.raw)
+        visible: _private.denoise
         note: qsTr("Deactivating Denoise because this filter can handle moderate noise.")
     }
 
@@ -48,6 +46,9 @@ ColumnLayout {
 
     QtObject {
         id: _private
+
+        readonly property bool sharpen: leftOut(_top.controls.categories.sharpen)
+        readonly property bool denoise: leftOut(_top.controls.categories.denoise) || leftOut(_top.controls.categories.raw)
 
         function leftOut(category: string): bool {
             const all = _top.resolution.allControls;

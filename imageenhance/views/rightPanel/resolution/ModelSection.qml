@@ -36,11 +36,15 @@ ColumnLayout {
 
         TapHandler {
             enabled: !_top.locked
-            onDoubleTapped: _private.choose(Math.max(0, _top.models.offered.findIndex(model => model.value === _top.models.autoModel)))
+            onTapped: {
+                if (_titleClicks.press(Date.now()))
+                    _private.choose(Math.max(0, _top.models.indexOf(_top.models.autoModel)));
+            }
         }
     }
 
     PbComboBox {
+        id: _choice
         enabled: !_top.locked && count > 0
         model: _top.models.offered
         currentIndex: _top.models.current
@@ -48,12 +52,15 @@ ColumnLayout {
         Accessible.name: qsTr("AI model")
         Layout.fillWidth: true
         onActivated: index => _private.choose(index)
+        // With new rows the toolkit goes to the first.
+        onModelChanged: PbBoundProperty.write(_choice, "currentIndex", _top.models.indexOf(_top.models.resolution.model))
     }
 
     PbSwitch {
         objectName: "neuralEngine"
         visible: _top.appleProcessor && _top.models.usesNeuralEngine
         enabled: !_top.locked
+        leftPadding: 0
         text: qsTr("Use Neural Engine")
         checked: _top.settings.useNeuralEngine
         onToggled: {
@@ -96,6 +103,11 @@ ColumnLayout {
         tooltip.offsetX: _private.tipOffset
         Layout.fillWidth: true
         onValueChanged: _top.models.setPercent(param, value)
+    }
+
+    PbDoublePress {
+        id: _titleClicks
+        interval: PebbleStyle.time.doublePress
     }
 
     QtObject {

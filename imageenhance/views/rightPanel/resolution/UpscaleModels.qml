@@ -16,7 +16,7 @@ QtObject {
         const names = Array.from(controls.modelNames[parentCategory] ?? []);
         return _all.filter(model => names.includes(model.value));
     }
-    readonly property int current: offered.findIndex(model => model.value === resolution.model)
+    readonly property int current: indexOf(resolution.model)
     readonly property bool fixesCompression: ["Standard", "High Fidelity", "Standard V2", "High Fidelity V2"].includes(resolution.model)
     readonly property bool usesNeuralEngine: ["Standard", "High Fidelity"].includes(resolution.model)
 
@@ -49,6 +49,11 @@ QtObject {
             value: "High Fidelity"
         }
     ]
+
+    // -1 when it is not offered.
+    function indexOf(model: var): int {
+        return offered.findIndex(entry => entry.value === model);
+    }
 
     // From 1 to 100.
     function percent(param: string): int {
