@@ -125,6 +125,7 @@ WindowParts {
         compare(signs(made), "---", "of the picture that is left");
         parts.backends.hold([]);
         parts.settle();
+        made.setFilter(all);
         lines.begin();
         report({ noise_level: 2 });
         compare(made.currentStep, AutoPilotStatus.NoFiles);

@@ -25,6 +25,7 @@ FocusScope {
     property real bottomLimit: parent?.height ?? 0 // of the working column, in the layer
 
     readonly property alias open: _private.open
+    readonly property real _layerWidth: parent?.width ?? 0
 
     signal closeRefineMode // goes before opening
     signal addFilter(string category, bool openPanel)
@@ -114,6 +115,7 @@ FocusScope {
     Accessible.name: qsTr("Add enhancements")
     onHeightChanged: _private.follow()
     onBottomLimitChanged: _private.follow()
+    on_LayerWidthChanged: _private.follow()
     onPanelCollapsedChanged: hide()
     onActiveFocusChanged: Qt.callLater(_private.hideWithoutFocus)
     Keys.enabled: open

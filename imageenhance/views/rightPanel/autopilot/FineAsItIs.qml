@@ -9,12 +9,14 @@ Rectangle {
     property bool collapsed: false
 
     readonly property string title: qsTr("This photograph is fine as it is")
-    readonly property string text: qsTr("Autopilot found nothing that needs work. Anything you would like to change can be added by hand.")
+    readonly property string text: qsTr("Autopilot found nothing that needs work; anything you would like to change can be added by hand.")
     readonly property int _margin: PebbleStyle.size.spacingLarge
 
     implicitHeight: collapsed ? width : _texts.implicitHeight + 2 * _margin
     radius: PebbleStyle.size.largeRadius
-    color: collapsed ? PebbleStyle.color.clear : PebbleStyle.color.noteBkg
+    color: PebbleStyle.color.clear
+    border.width: collapsed ? 0 : PebbleStyle.size.border
+    border.color: PebbleStyle.color.darkGray
     Accessible.role: Accessible.Grouping
     Accessible.name: title
     Accessible.description: detail !== "" ? text + " " + detail : text
