@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQml.Models
 import QtQuick
-import QtQuick.Controls.Fusion
 import PebbleUI
 import TControls
 import TPresetsManager
@@ -90,7 +89,8 @@ PbMenu {
             enabled: count > 0
 
             Instantiator {
-                model: Array.from(_top.presets.presets).sort((one, other) => one.localeCompare(other))
+                // The linter knows no sets.
+                model: Array.from(_top.presets.presets).sort((one, other) => one.localeCompare(other)) // qmllint disable unresolved-type
                 onObjectAdded: (index, object) => _presets.insertItem(index, object as PbMenuItem)
                 onObjectRemoved: (index, object) => _presets.removeItem(object as PbMenuItem)
                 delegate: PbMenuItem {

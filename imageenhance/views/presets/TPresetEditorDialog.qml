@@ -63,7 +63,7 @@ QueuedDialog {
     ]
     onAboutToShow: {
         _private.failedName = "";
-        _private.taken = Array.from(presets.presets);
+        _private.taken = Array.from(presets.presets); // qmllint disable unresolved-type
         _field.text = _state.ownName;
     }
     onOpened: {
