@@ -1,7 +1,9 @@
 // What of an image's filters goes into a preset: nothing that belongs to that one image.
 
+// Categories that no preset has.
+export const bannedFilters = ["RAW", "Inpaint"];
+
 const OF_ONE_IMAGE = ["applyAutopilotOnceCalculated", "autoPilot", "autoPilotSettings", "blur_level", "justSaved", "noise_level"];
-const BANNED = ["RAW", "Inpaint"];
 const FACES = ["highConfidenceFaces", "lowConfidenceFaces", "selectedFaces"];
 const SIZES = ["height", "width", "scale"];
 
@@ -55,7 +57,7 @@ function reducedFilter(category, filter) {
 // is given stays as it is.
 export function reduced(preset) {
     const given = without(isMap(preset.controls) ? preset.controls : {}, OF_ONE_IMAGE);
-    const isBanned = name => BANNED.includes(categoryOf(name, given));
+    const isBanned = name => bannedFilters.includes(categoryOf(name, given));
     const controls = {};
     let modified = false;
     for (const [name, filter] of Object.entries(given)) {

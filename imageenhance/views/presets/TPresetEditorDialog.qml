@@ -20,6 +20,8 @@ QueuedDialog {
     property var preset: ({}) // { version, name unless it is new, filterOrder, controls }
 
     readonly property string name: _field.text
+    readonly property var filteredFilterOrder: _state.reduction.preset.filterOrder
+    readonly property bool controlsModified: _state.reduction.modified
     readonly property bool canSave: name !== "" && !_field.showError
     readonly property bool failed: _private.failedName !== "" && _private.failedName === name
 
@@ -28,7 +30,7 @@ QueuedDialog {
     function save(): void {
         if (!canSave || !settled)
             return;
-        const preset = Object.assign({}, _state.reduced, {
+        const preset = Object.assign({}, _state.reduction.preset, {
             "name": _top.name
         });
         presets.savePreset(preset);
@@ -124,8 +126,8 @@ QueuedDialog {
         }
         PresetFilterList {
             vocabulary: _top.vocabulary
-            filterOrder: _state.reduced.filterOrder
-            controls: _state.reduced.controls
+            filterOrder: _top.filteredFilterOrder
+            controls: _state.reduction.preset.controls
             Layout.fillWidth: true
             Layout.fillHeight: true
             Layout.maximumHeight: implicitHeight
@@ -154,7 +156,7 @@ QueuedDialog {
     QtObject {
         id: _state
         readonly property string ownName: _top.preset.name ?? ""
-        readonly property var reduced: Reduction.reduced(_top.preset).preset
+        readonly property var reduction: Reduction.reduced(_top.preset)
     }
 
     QtObject {
