@@ -99,6 +99,7 @@ WindowParts {
 
     function initTestCase(): void {
         settings.autopilotRecommendFilters = false;
+        controls.modelParamInfo = { Denoise: { m: {} }, Enhance: { m: {} } };
         backends.advise({ Sharpen: { enabled: true, p: 1 }, Denoise: { enabled: false } });
     }
 
