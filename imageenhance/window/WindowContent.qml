@@ -75,7 +75,7 @@ Item {
             presets: _top.presets
             generator: _top.generator
             navigator: _preview.navigator
-            layer: _beside
+            workArea: _beside
             shiftHeld: _top.keyState.shiftHeld
             onFocusWanted: _top.takeFocus()
         }

@@ -93,7 +93,7 @@ Item {
         queue: _queue
         onAutopilotConfirmed: {
             _top.panel.logic.stack.clearEditsColumn(true);
-            _top.panel.applyAutopilot();
+            _top.panel.logic.applyAutopilot();
         }
         onAutopilotCancelled: _top.panel.focusApplyAutopilot()
         onAutopilotToSelectedConfirmed: _batch.applyAutopilotToSelected()

@@ -28,7 +28,7 @@ TestCase {
     readonly property alias panel: _panel
     readonly property alias pipeline: _pipeline
     readonly property alias presets: _presets
-    readonly property alias layer: _layer
+    readonly property alias workArea: _layer
     property int answers: 0 // of the engine, one for each run that was asked for
     property int cancelled: 0 // of these
 
@@ -74,7 +74,7 @@ TestCase {
     // One model for each category that has an engine.
     function useCatalogue(): void {
         const number = { "default": 0.5 };
-        const model = keys => ({ "gui": { "parameters": Object.fromEntries(keys.map(key => [key, number])) } });
+        const model = keys => ({ "gui": { "parameters": keys.reduce((all, key) => Object.assign(all, { [key]: number }), {}) } });
         _controls.modelParamInfo = {
             "Denoise": { "Low Light Beta": model(["param1_normalv2", "param2_normalv2", "recover_detail"]), "Severe Noise": model(["param1", "param2"]), "Severe Noise Beta": model(["param1_strongv2", "param2_strongv2"]) },
             "Sharpen": { "Sharpen Standard": model(["param1", "param2", "slens_blur", "smot_blur"]), "Sharpen Standard v2": model(["param1", "param2", "std_blur", "std_noise"]), "Sharpen Strong": model(["param1", "param2", "stg_blur"]) },
@@ -87,7 +87,7 @@ TestCase {
 
     // [name, filter] of a controls map's filters, by their names.
     function filtersOf(map: var): var {
-        return Object.entries(map).filter(([name, filter]) => filter?.category !== undefined && name !== "autoPilotSettings").sort(([one], [other]) => one < other ? -1 : 1);
+        return Object.entries(map).filter(([name, filter]) => filter?.category !== undefined && name !== "autoPilotSettings").sort((one, other) => one[0].localeCompare(other[0]));
     }
 
     // The runs asked for since the last forget(), each of which reached the engine.
@@ -171,9 +171,9 @@ TestCase {
         windowState: _state
         settings: _settings
         presets: _presets
-        generator: _backends.generator
+        generator: _backends.recommender({})
         navigator: _preview.navigator
-        layer: _layer
+        workArea: _layer
         shiftHeld: false
     }
     Item {

@@ -70,12 +70,12 @@ WindowParts {
 
     function test_answer_while_editing_leaves_the_filters_alone(): void {
         parts.open([]);
-        parts.editMode = EditMode.Faces;
+        parts.panel.logic.modes.switchEditMode(EditMode.Faces);
         parts.controls.loadImages(["/a.jpg"]);
         parts.settle();
         compare([parts.controls.currentControls.autoPilot, parts.controls.filterOrder], [TImageSettings.On, []]);
         verify(!parts.controls.currentControls.initialFiltersApplied);
-        parts.editMode = EditMode.None;
+        parts.panel.logic.modes.switchEditMode(EditMode.None);
         parts.reader.reload();
         parts.settle();
         compare(parts.controls.filterOrder, ["Denoise", "Sharpen"], "the next answer brings them");

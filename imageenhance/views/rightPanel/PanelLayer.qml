@@ -7,73 +7,77 @@ import imageenhance
 Item {
     id: _top
 
-    required property RightPanel panel
-    required property EnhancementActions actions
+    required property PanelLogic logic
+    required property Item column // the right panel
     required property Item anchorItem // opens the add panel
+    required property bool shiftHeld
 
     readonly property alias addPanel: _add
     readonly property alias sidebarOffset: _refining.sidebarOffset
 
-    readonly property PanelLogic _logic: panel.logic
-    readonly property WindowState _window: panel.windowState
+    signal editPreset(string name)
+    signal deletePreset(string name)
+    signal focusWanted // the keyboard goes back to the window
+
+    readonly property WindowState _window: logic.windowState
 
     RefineLayer {
         id: _refining
         anchors.fill: parent
-        panelState: _top._logic.stack
-        actions: _top.actions
+        panelState: _top.logic.stack
+        actions: _top.logic.actions
         windowState: _top._window
-        settings: _top.panel.settings
-        columnWidth: _top.panel.width
+        settings: _top.logic.settings
+        columnWidth: _top.column.width
     }
     EnhancementListPanel {
         id: _add
-        presets: Array.from(_top.panel.presets.presets)
-        vocabulary: _top._logic.vocabulary
-        faceCount: _top._logic.faceCount
-        stackHasEnhance: _top._logic.stack.currentFilterStack.includes(_top.panel.controls.categories.enhance)
-        noiseLevel: _top._logic.problems.noise_level ?? -1
-        blurLevel: _top._logic.problems.blur_level ?? -1
-        shiftHeld: _top.panel.shiftHeld
-        resizingSupported: _top._logic.resizingSupported
+        presets: Array.from(_top.logic.presets.presets)
+        vocabulary: _top.logic.vocabulary
+        faceCount: _top.logic.faceCount
+        stackHasEnhance: _top.logic.stack.currentFilterStack.includes(_top.logic.controls.categories.enhance)
+        noiseLevel: _top.logic.problems.noise_level ?? -1
+        blurLevel: _top.logic.problems.blur_level ?? -1
+        shiftHeld: _top.shiftHeld
+        resizingSupported: _top.logic.resizingSupported
         psFilter: _top._window.integrations.pluginType === TIntegrations.PSFilter
-        panelCollapsed: _top.panel.settings.rightPanelCollapsed
+        panelCollapsed: _top.logic.settings.rightPanelCollapsed
         windowHeight: _top.Window.height
         filesListHeight: 0
         anchorItem: _top.anchorItem
-        edge: _top.panel
-        onCloseRefineMode: _top._logic.stack.closeRefineMode()
-        onAddFilter: (category, openPanel) => _top._logic.stack.addNewFilterToHistory(category, _top._logic.stack.getAdjustedFilterName(category), openPanel)
-        onUpscaleAdded: _top.panel.suggestions.removeUpscale()
-        onSwitchEditMode: mode => _top._logic.modes.switchEditMode(mode)
+        edge: _top.column
+        onCloseRefineMode: _top.logic.stack.closeRefineMode()
+        onAddFilter: (category, openPanel) => _top.logic.addFilter(category, openPanel)
+        onUpscaleAdded: _top.logic.suggestions.removeUpscale()
+        onSwitchEditMode: mode => _top.logic.modes.switchEditMode(mode)
         onLoadPreset: (name, keepOpen) => {
-            _top._logic.loadPreset(name);
+            _top.logic.loadPreset(name);
             if (keepOpen)
                 focusPreset(name);
         }
-        onEditPreset: name => _top.panel.editPreset(name)
-        onDeletePreset: name => _top.panel.deletePreset(name)
+        onEditPreset: name => _top.editPreset(name)
+        onDeletePreset: name => _top.deletePreset(name)
         onApplyAutopilot: {
-            if (!_top.panel.applyAutopilot())
-                _top.panel.focusWanted();
+            if (!_top.logic.applyAutopilot())
+                _top.focusWanted();
         }
-        onFocusWanted: _top.panel.focusWanted()
+        onFocusWanted: _top.focusWanted()
     }
     Connections {
-        target: _top._logic.stack
+        target: _top.logic.stack
 
         function onHideAddPanel(): void {
             _add.hide();
         }
     }
     Connections {
-        target: _top._logic.modes
+        target: _top.logic.modes
 
         function onEntered(): void {
             _add.hide();
         }
         function onFocusWanted(): void {
-            _top.panel.focusWanted();
+            _top.focusWanted();
         }
     }
 }

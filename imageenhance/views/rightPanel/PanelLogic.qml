@@ -1,5 +1,6 @@
 import QtQuick
 import TControls
+import TFilterGenerator
 import TPresetsManager
 import imageenhance
 
@@ -8,16 +9,20 @@ import imageenhance
 QtObject {
     id: _top
 
-    required property TControls controls
     required property ImageProcessor engine
     required property TPresetsManager presets
+    required property TFilterGenerator generator
+    required property MainSettings settings
     required property WindowState windowState
 
+    readonly property TControls controls: windowState.controls
     readonly property alias modes: _modes
     readonly property alias vocabulary: _vocabulary
     readonly property alias stack: _stack
     readonly property alias steps: _steps
     readonly property alias selection: _selection
+    readonly property alias suggestions: _suggestions
+    readonly property alias actions: _actions
     readonly property alias problems: _private.problems // of the analysis: faceCount, noise_level, reasons, ...
     readonly property alias loaded: _private.loaded // the column shows the current image's filters
     readonly property int faceCount: problems.faceCount ?? -1
@@ -30,7 +35,6 @@ QtObject {
 
     signal autopilotNeedsConfirmation // it would replace the filters that the image has
     signal autopilotAdded
-    signal presetTriggered
     signal warned(string title, string message)
 
     // Autopilot has answered, or had done so before this image became current.
@@ -42,12 +46,18 @@ QtObject {
         controls.resetManualAPCheck();
     }
 
-    // False where it would replace filters: the user is asked first.
+    // By hand. False where it would replace filters: the user is asked first.
     function applyAutopilot(): bool {
-        if (!_loading.loadNewFiltersIntoEdits(true))
-            return false;
-        autopilotAdded();
-        return true;
+        const applied = _loading.loadNewFiltersIntoEdits(true);
+        if (applied)
+            autopilotAdded();
+        suggestions.regenerate();
+        return applied;
+    }
+
+    // Under the next free name.
+    function addFilter(category: string, openPanel: bool): void {
+        stack.addNewFilterToHistory(category, stack.getAdjustedFilterName(category), openPanel);
     }
 
     function clearAndAddAutopilotFilters(): void {
@@ -67,7 +77,7 @@ QtObject {
             return;
         stack.clearEditsColumn();
         _loading.loadNewFiltersIntoEdits(false);
-        presetTriggered();
+        suggestions.regenerate();
     }
 
     // The current image's record became another one elsewhere: by undo, or from a host.
@@ -110,6 +120,26 @@ QtObject {
         faceCount: _top.faceCount
         manualHideFaces: _stack.manualHideFaces
         currentFilter: _stack.currentFilter
+    }
+    readonly property SuggestionList _suggestionsObject: SuggestionList {
+        id: _suggestions
+        controls: _top.controls
+        generator: _top.generator
+        settings: _top.settings
+        engine: _top.engine
+        vocabulary: _vocabulary
+        inputSize: _top.windowState.inputSize
+        rowCount: _stack.enhancementsModel.count
+        autopilotRunning: _top.windowState.autopilotRunning
+        onWanted: category => {
+            _stack.closeOpenRefinePanel();
+            _top.addFilter(category, true);
+        }
+    }
+    readonly property EnhancementActions _actionsObject: EnhancementActions {
+        id: _actions
+        panelState: _stack
+        onHoverPreview: (show, mode) => _selection.toggleHoverPreview(show, mode)
     }
     readonly property EditSteps _stepsObject: EditSteps {
         id: _steps

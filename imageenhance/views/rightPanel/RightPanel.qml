@@ -17,7 +17,7 @@ Rectangle {
     required property TPresetsManager presets
     required property TFilterGenerator generator
     required property Item navigator // shown in the panel's slot
-    required property Item layer // over the work area: what opens beside the panel lies there
+    required property Item workArea // over the work area: what opens beside the panel lies there
     required property bool shiftHeld
 
     readonly property TControls controls: windowState.controls
@@ -33,7 +33,7 @@ Rectangle {
     readonly property bool addingFilter: _logic.stack.addingFilter
     readonly property bool enhancementsPanelOpen: _beside.addPanel.open
     readonly property real sidebarOffset: _beside.sidebarOffset // what the preview gives up at its right side
-    readonly property alias suggestions: _suggestions
+    readonly property alias suggestions: _logic.suggestions
 
     readonly property alias fileSize: _private.fileSize // of a save with the present settings; 0 when unknown
     readonly property alias fileSizeError: _private.fileSizeError
@@ -70,13 +70,6 @@ Rectangle {
         _beside.addPanel.focusApplyAutopilot();
     }
 
-    // By hand; false where the user is asked first.
-    function applyAutopilot(): bool {
-        const applied = _logic.applyAutopilot();
-        _suggestions.regenerate();
-        return applied;
-    }
-
     // Of the picture before it is enlarged.
     function updateFileSizeEstimate(fileSize: real): void {
         const enhance = controls.currentControls[controls.categories.enhance];
@@ -105,38 +98,30 @@ Rectangle {
 
     PanelLogic {
         id: _logic
-        controls: _top.controls
         engine: _top.engine
         presets: _top.presets
+        generator: _top.generator
+        settings: _top.settings
         windowState: _top.windowState
+        actions.fileSize: _private.fileSize
+        actions.fileSizeError: _private.fileSizeError
+        actions.onEstimateFileSize: _top.estimateFileSize()
         onAutopilotAdded: {
             if (_top.shiftHeld !== _top.enhancementsPanelOpen)
                 _beside.addPanel.toggle();
         }
-        onPresetTriggered: _suggestions.regenerate()
-    }
-    SuggestionList {
-        id: _suggestions
-        controls: _top.controls
-        generator: _top.generator
-        settings: _top.settings
-        engine: _top.engine
-        vocabulary: _logic.vocabulary
-        inputSize: _top.windowState.inputSize
-        rowCount: _logic.stack.enhancementsModel.count
-        autopilotRunning: _top.windowState.autopilotRunning
-        onWanted: category => {
-            _logic.stack.closeOpenRefinePanel();
-            _logic.stack.addNewFilterToHistory(category, _logic.stack.getAdjustedFilterName(category), true);
-        }
     }
     PanelLayer {
         id: _beside
-        parent: _top.layer
+        parent: _top.workArea
         anchors.fill: parent
-        panel: _top
+        logic: _logic
+        column: _top
         anchorItem: _controlBar.addButton
-        actions: _column.actions
+        shiftHeld: _top.shiftHeld
+        onEditPreset: name => _top.editPreset(name)
+        onDeletePreset: name => _top.deletePreset(name)
+        onFocusWanted: _top.focusWanted()
     }
 
     Item {
@@ -160,7 +145,9 @@ Rectangle {
         id: _column
         anchors { left: parent.left; right: parent.right; top: _controlBar.bottom; bottom: _exports.top }
         visible: _top.editMode !== EditMode.Crop
-        panel: _top
+        logic: _logic
+        collapsed: _top.collapsed
+        onSaveAsPreset: _top.saveAsPreset()
     }
     ExportButtons {
         id: _exports

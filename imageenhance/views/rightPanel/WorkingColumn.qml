@@ -7,61 +7,54 @@ import "../../utils/reasons.mjs" as Reasons
 Item {
     id: _top
 
-    required property RightPanel panel
+    required property PanelLogic logic
+    required property bool collapsed
 
     readonly property alias autopilotStatus: _status
-    readonly property alias actions: _actions
 
-    readonly property PanelLogic _logic: panel.logic
-    readonly property bool _empty: _logic.stack.enhancementsModel.count === 0
+    signal saveAsPreset
+
+    readonly property WindowState _window: logic.windowState
+    readonly property bool _empty: logic.stack.enhancementsModel.count === 0
     // Autopilot has looked, and would add nothing.
-    readonly property bool _fine: _empty && _logic.loaded && !_status.visible && _logic.isFineAsItIs
-
-    EnhancementActions {
-        id: _actions
-        panelState: _top._logic.stack
-        fileSize: _top.panel.fileSize
-        fileSizeError: _top.panel.fileSizeError
-        onEstimateFileSize: _top.panel.estimateFileSize()
-        onHoverPreview: (show, mode) => _top._logic.selection.toggleHoverPreview(show, mode)
-    }
+    readonly property bool _fine: _empty && logic.loaded && !_status.visible && logic.isFineAsItIs
 
     EnhancementsListView {
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: _card.visible ? _card.top : parent.bottom }
         visible: !_status.visible
-        panelState: _top._logic.stack
-        actions: _actions
-        mousePressed: _top.panel.windowState.helpers.mouseListener.isMousePressed
-        collapsed: _top.panel.collapsed
+        panelState: _top.logic.stack
+        actions: _top.logic.actions
+        mousePressed: _top._window.helpers.mouseListener.isMousePressed
+        collapsed: _top.collapsed
     }
     FineAsItIs {
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: _top.panel.collapsed ? 0 : PebbleStyle.size.spacingLarge }
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: _top.collapsed ? 0 : PebbleStyle.size.spacingLarge }
         visible: _top._fine
-        collapsed: _top.panel.collapsed
-        detail: Reasons.sentence(_top.panel.controls.categories.denoise, _top._logic.problems.reasons?.[_top.panel.controls.categories.denoise])
+        collapsed: _top.collapsed
+        detail: Reasons.sentence(_top.logic.controls.categories.denoise, _top.logic.problems.reasons?.[_top.logic.controls.categories.denoise])
     }
     AutoPilotStatus {
         id: _status
         anchors { left: parent.left; right: parent.right; top: parent.top }
-        visible: _top._empty && _top.panel.windowState.autopilotRunning
-        controls: _top.panel.controls
-        engine: _top.panel.engine
-        imageOpen: _top.panel.windowState.imageOpen
-        loading: _top.panel.windowState.isLoading
-        loadingStatus: _top.panel.windowState.pluginMode ? _top.panel.windowState.integrations.loadingStatus : ""
-        lensCorrectionEnabled: _top.panel.settings.lensCorrectionEnabled
+        visible: _top._empty && _top._window.autopilotRunning
+        controls: _top.logic.controls
+        engine: _top.logic.engine
+        imageOpen: _top._window.imageOpen
+        loading: _top._window.isLoading
+        loadingStatus: _top._window.pluginMode ? _top._window.integrations.loadingStatus : ""
+        lensCorrectionEnabled: _top.logic.settings.lensCorrectionEnabled
         lensCorrected: OptionalBoolean.Unset
-        collapsed: _top.panel.collapsed
+        collapsed: _top.collapsed
     }
     SuggestiveAutoPilotCard {
         id: _card
         anchors { left: parent.left; bottom: parent.bottom }
-        visible: _top.panel.windowState.imageOpen && !_status.visible
-        suggestions: _top.panel.suggestions
-        collapsed: _top.panel.collapsed
-        onSaveAsPreset: _top.panel.saveAsPreset()
-        onApplyAutopilot: _top.panel.applyAutopilot()
-        onExpandPanel: _top.panel.settings.rightPanelCollapsed = false
-        onHoverSubject: (show, subject) => _top._logic.selection.toggleHoverPreview(show, EditMode.Subject, subject)
+        visible: _top._window.imageOpen && !_status.visible
+        suggestions: _top.logic.suggestions
+        collapsed: _top.collapsed
+        onSaveAsPreset: _top.saveAsPreset()
+        onApplyAutopilot: _top.logic.applyAutopilot()
+        onExpandPanel: _top.logic.settings.rightPanelCollapsed = false
+        onHoverSubject: (show, subject) => _top.logic.selection.toggleHoverPreview(show, EditMode.Subject, subject)
     }
 }

@@ -86,6 +86,7 @@ ListView {
 
     RowMenu {
         id: _menu
+        parent: _top
         actions: _top.actions
     }
     RowDrag {

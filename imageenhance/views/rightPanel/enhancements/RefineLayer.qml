@@ -49,6 +49,7 @@ Item {
     }
     PanelMenu {
         id: _menu
+        parent: _top
         actions: _top.actions
         placement: _placement
     }

@@ -22,10 +22,9 @@ QtObject {
     readonly property bool nearLeftEdge: Placement.isNearLeftEdge(position.x, _private.bounds)
 
     function beginDrag(): void {
-        const from = position;
+        _private.draggedFrom = position;
         _private.dragging = true;
-        _private.floatAt(from);
-        _private.draggedFrom = from;
+        _private.floatAt(_private.draggedFrom);
     }
 
     // By so much since the beginning.
