@@ -80,10 +80,13 @@ WindowParts {
         const operations = {
             add: () => {
                 const category = ["Denoise", "Sharpen", "Exposure Adjust", "White Balance Adjust", "Enhance"][random(5)];
-                if (category !== "Enhance" || !stack.currentFilterStack.includes("Enhance"))
+                if (stack.currentFilterStack.length < 9 && (category !== "Enhance" || !stack.currentFilterStack.includes("Enhance")))
                     stack.addNewFilterToHistory(category, stack.getAdjustedFilterName(category));
             },
-            duplicate: () => stack.duplicateFilter(random(Math.max(1, stack.currentFilterStack.length))),
+            duplicate: () => {
+                if (stack.currentFilterStack.length < 9)
+                    stack.duplicateFilter(random(Math.max(1, stack.currentFilterStack.length)));
+            },
             remove: () => {
                 const index = random(Math.max(1, stack.currentFilterStack.length));
                 if (index < stack.currentFilterStack.length && stack.currentFilterStack[index] !== "RAW")
@@ -141,6 +144,11 @@ WindowParts {
                 past = past.slice(-101);
             }
             agree(what);
+            if (i % 25 === 0) {
+                // What goes by itself goes now, and what follows from a change belongs to it.
+                parts.turns();
+                past[past.length - 1] = state();
+            }
         }
         parts.settle();
     }
