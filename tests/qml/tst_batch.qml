@@ -67,6 +67,7 @@ WindowParts {
     AppShortcuts {
         commands: commands
         preview: parts.preview
+        panel: parts.panel
         windowState: parts.windowState
         active: true
     }

@@ -32,7 +32,7 @@ Item {
     }
     EnhancementListPanel {
         id: _add
-        presets: Array.from(_top.logic.presets.presets)
+        presets: Array.from(_top.logic.presets.presets) // qmllint disable unresolved-type
         vocabulary: _top.logic.vocabulary
         faceCount: _top.logic.faceCount
         stackHasEnhance: _top.logic.stack.currentFilterStack.includes(_top.logic.controls.categories.enhance)
