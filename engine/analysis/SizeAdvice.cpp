@@ -128,13 +128,15 @@ Advice adviseSize(const AdviceInput &input, bool denoised, bool deblurred) {
     advice.enabled = size.wanted;
     advice.model = modelFor(input);
     const bool ownResolution = preferences.resolution > 0;
+    // Who thinks in pixels is shown pixels, whatever the file's density is counted in.
+    const bool ownUnit = ownResolution || preferences.resolutionUnit == Pixels;
     advice.parameters = {
         {Params::Mode, size.mode},
         {Params::Scale, size.scale},
         {Params::Width, std::max(1, int(std::lround(input.statistics.width * size.scale)))},
         {Params::Height, std::max(1, int(std::lround(input.statistics.height * size.scale)))},
         {Params::Resolution, ownResolution ? double(preferences.resolution) : input.image.resolution},
-        {Params::ResolutionUnit, ownResolution ? preferences.resolutionUnit : input.image.resolutionUnit}};
+        {Params::ResolutionUnit, ownUnit ? preferences.resolutionUnit : input.image.resolutionUnit}};
     adviseParameters(input,
                      byRole({{Roles::Denoise, strength(noise, preferences.upscalingParam1Strength)},
                              {Roles::Deblur, strength(blur, preferences.upscalingParam2Strength)},

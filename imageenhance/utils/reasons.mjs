@@ -26,6 +26,7 @@ const quantities = {
     },
     "Enhance": {
         figure: () => qsTr("Size measured: %1 megapixels"),
+        limit: () => qsTr("enlarged up to %1"),
         shown: value => number(value / 1e6),
         below: true
     },

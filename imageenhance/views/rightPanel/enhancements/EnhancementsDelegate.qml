@@ -199,7 +199,7 @@ Item {
             border { width: PebbleStyle.size.focusRing; color: PebbleStyle.color.focusRing }
         }
         PbHoverTip {
-            readonly property bool silent: _top.drag.active || _visibility.hovered || _remove.hovered || _note.hovered
+            readonly property bool silent: _top.open || _top.drag.active || _visibility.hovered || _remove.hovered || _note.hovered
 
             title: silent || !_top.collapsed ? "" : _top.subLine === "" ? _top.displayText : _top.displayText + " - " + _top.subLine
             text: silent ? "" : _top.reason

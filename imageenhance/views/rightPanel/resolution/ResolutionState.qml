@@ -112,13 +112,14 @@ QtObject {
     readonly property QtObject _private: QtObject {
         id: _private
 
-        property var current: ({
+        property var taken: null // the size that the filter has; null before there is one
+        readonly property var current: taken ?? ({
                 scale: 1,
                 width: 0,
                 height: 0,
                 mode: "scale",
                 resolution: 72,
-                resolutionUnit: Limits.Pixels
+                resolutionUnit: 1 // pixels
             })
         property string imagePath: "" // of the image that `current` belongs to
 
@@ -140,7 +141,7 @@ QtObject {
         function take(size: var): void {
             const denser = imagePath === _top.controls.currentImage && size.resolution !== current.resolution;
             imagePath = _top.controls.currentImage;
-            current = size;
+            taken = size;
             if (denser)
                 _top.controls.setResolution(size.resolution);
         }
