@@ -127,6 +127,8 @@ QtObject {
 
         function finish(): void {
             _top.controls.propagateControlChanges();
+            // The question has said that this can't be undone.
+            _top.controls.forgetEdits();
             _top.appliedToAll();
         }
     }

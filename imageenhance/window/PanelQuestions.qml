@@ -33,4 +33,21 @@ QtObject {
             _top.toaster.warn(title, message);
         }
     }
+    readonly property Connections _ofStack: Connections {
+        target: _top.panel.logic.stack
+
+        // Once in a session.
+        function onWarnAboutDuplicateFilters(): void {
+            if (_private.warned || !_top.panel.windowState.integrations.shouldWarnAboutDuplicateFilters)
+                return;
+            _private.warned = true;
+            _top.toaster.warn(qsTr("Duplicate filter added"), qsTr("Only the first filter of each type will be saved when replaying this action or smart filter."));
+        }
+    }
+
+    readonly property QtObject _private: QtObject {
+        id: _private
+
+        property bool warned: false
+    }
 }

@@ -95,7 +95,7 @@ Item {
             _top.panel.logic.stack.clearEditsColumn(true);
             _top.panel.logic.applyAutopilot();
         }
-        onAutopilotCancelled: _top.panel.focusApplyAutopilot()
+        onAutopilotCancelled: Qt.callLater(_top.panel.focusApplyAutopilot) // once the queue has given the keyboard back
         onAutopilotToSelectedConfirmed: _batch.applyAutopilotToSelected()
         onCurrentSettingsToSelectedConfirmed: _batch.applyCurrentSettingsToSelected()
     }

@@ -123,7 +123,7 @@ WindowParts {
             }
         };
         const names = Object.keys(operations);
-        for (let i = 0; i < 2000; ++i) {
+        for (let i = 0; i < 1000; ++i) {
             const name = random(3) > 0 ? names[random(names.length)] : random(2) === 0 ? "undo" : "redo";
             const what = `${name}, operation ${i}`;
             if (name === "undo" || name === "redo") {

@@ -19,6 +19,7 @@ Rectangle {
     required property Item navigator // shown in the panel's slot
     required property Item workArea // over the work area: what opens beside the panel lies there
     required property bool shiftHeld
+    property bool canExport: false // somebody takes what is to be saved
 
     readonly property TControls controls: windowState.controls
     readonly property alias logic: _logic
@@ -155,7 +156,7 @@ Rectangle {
         visible: _top.windowState.imageOpen
         collapsed: _top.collapsed
         windowState: _top.windowState
-        active: _top.saveButtonActive
+        active: _top.saveButtonActive && _top.canExport
         onSaveRequested: quick => _top.saveRequested(quick)
     }
 
@@ -165,6 +166,15 @@ Rectangle {
         width: 3
         visible: _logic.stack.canReattach
         color: PebbleStyle.color.primeBlue
+    }
+
+    Connections {
+        target: _top.controls
+
+        function onCurrentImageChanged(): void {
+            _private.fileSize = 0;
+            _private.fileSizeError = "";
+        }
     }
 
     QtObject {

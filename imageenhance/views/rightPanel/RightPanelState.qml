@@ -68,7 +68,7 @@ QtObject {
     function removeFilter(index: int, filterName: string, removeControl = true): void {
         modes.switchEditMode(EditMode.None, false);
         if (Stack.categoryOf(filterName) === controls.categories.inpaint)
-            unlockFilters(filterName);
+            _locks.unlockFilters(_private.stack, filterName);
         _private.stack = Stack.without(_private.stack, filterName);
         controls.setFilterOrder(_private.stack);
         if (removeControl)
@@ -120,7 +120,7 @@ QtObject {
     }
 
     function isLocked(filterName: string): bool {
-        return Boolean(controls.currentControls[filterName]?.params?.locked);
+        return _locks.isLocked(filterName);
     }
 
     // A row opens its panel.
@@ -137,13 +137,7 @@ QtObject {
         if (!filterName.includes(controls.categories.inpaint))
             return;
         modes.switchEditMode(EditMode.Inpaint);
-        for (const name of Stack.toLock(_private.stack, filterName, name => isLocked(name)))
-            controls.setParam(name, "locked", true);
-    }
-
-    function unlockFilters(filterName: string): void {
-        for (const name of Stack.toUnlock(_private.stack, filterName))
-            controls.setParam(name, "locked", false);
+        _locks.lockFilters(_private.stack, filterName);
     }
 
     function closeOpenRefinePanel(): void {
@@ -176,6 +170,12 @@ QtObject {
 
     readonly property EnhancementsModel _rowsObject: EnhancementsModel {
         id: _rows
+        controls: _top.controls
+        vocabulary: _top.vocabulary
+    }
+    readonly property FilterLocks _locksObject: FilterLocks {
+        id: _locks
+        controls: _top.controls
     }
 
     // The column does not outlive its image.
@@ -219,26 +219,12 @@ QtObject {
 
         function followStack(): void {
             if (!_top.exporting || stack.length === 0)
-                _rows.follow(stack, name => _private.rowOf(name, false, false));
+                _rows.follow(stack, false, "");
         }
 
         function showRow(filterName: string, isFromAutopilot: bool, openPanel: bool): void {
             if (!_top.exporting)
-                _rows.follow(stack, name => _private.rowOf(name, isFromAutopilot, openPanel && name === filterName));
-        }
-
-        function rowOf(name: string, isFromAutopilot: bool, openPanel: bool): var {
-            const current = _top.controls.currentControls;
-            const category = current[name]?.category || Stack.categoryOf(name);
-            const advised = name === category && current.autoPilotSettings?.[category]?.enabled;
-            return {
-                "adjustedFilterName": name,
-                "parentCategory": category,
-                "displayText": _top.vocabulary.label(category),
-                "iconSource": _top.vocabulary.icon(category).toString(),
-                "mode": isFromAutopilot || advised ? EnhancementsModel.Mode.Autopilot : EnhancementsModel.Mode.Custom,
-                openPanel
-            };
+                _rows.follow(stack, isFromAutopilot, openPanel ? filterName : "");
         }
     }
 }

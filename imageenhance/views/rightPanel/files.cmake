@@ -4,6 +4,7 @@ list(APPEND STUDIO_QML
   views/rightPanel/EditSteps.qml
   views/rightPanel/EnhancementsModel.qml
   views/rightPanel/ExportButtons.qml
+  views/rightPanel/FilterLocks.qml
   views/rightPanel/FilterVocabulary.qml
   views/rightPanel/PanelControlBar.qml
   views/rightPanel/PanelLayer.qml

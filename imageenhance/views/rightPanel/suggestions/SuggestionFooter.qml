@@ -74,7 +74,6 @@ Column {
         focusPolicy: _top.cursor.focusPolicy(_apply)
         onClicked: {
             _top.applyAutopilot();
-            _top.suggestions.regenerate();
         }
 
         PbAutoPilotDot {
