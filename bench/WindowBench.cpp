@@ -1,5 +1,8 @@
 // The running window, measured from outside: first frame, opening, zooming and panning, and what it uses when
-// nothing happens. Needs a display; without one it starts itself on a virtual one.
+// nothing happens; and from inside, what its column of filters costs. Needs a display; without one it starts
+// itself on a virtual one.
+#include "PanelBench.h"
+#include "Row.h"
 #include "StaleRun.h"
 #include "StudioProcess.h"
 
@@ -27,21 +30,10 @@ constexpr double BlockedMs = 16;    // 99th percentile, by what the thread itsel
 constexpr double StaleRunMs = 50;   // until a stopped run has answered
 constexpr double IdleProcessor = 1; // per cent of one core
 constexpr int Rounds = 5;
+constexpr int PanelPatienceMs = 600000;
 
 QString program() {
     return QCoreApplication::applicationDirPath() + u"/orvane-studio"_s;
-}
-
-int row(const char *what, double value, const char *unit, double limit) {
-    const bool within = value >= 0 && value <= limit;
-    std::printf("%-58s %9.2f %-3s bound %g %s\n", what, value, unit, limit, within ? "" : "OUT OF BOUNDS");
-    std::fflush(stdout);
-    return within ? 0 : 1;
-}
-
-double median(std::vector<double> values) {
-    std::ranges::sort(values);
-    return values.empty() ? -1 : values[values.size() / 2];
 }
 
 QString photograph(const QTemporaryDir &folder, const QString &name, int width, int height) {
@@ -233,11 +225,26 @@ int idle(const QTemporaryDir &folder) {
            row("picture, nothing happens: processor", use({small}, "Loading file"), "%", IdleProcessor);
 }
 
+/// In a process and a home of its own.
+int panel(const QTemporaryDir &folder) {
+    const QString small = photograph(folder, u"small.jpg"_s, 600, 400);
+    const QTemporaryDir home;
+    QProcess process;
+    process.setProcessEnvironment(WindowDriver::environmentBelow(home));
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(QCoreApplication::applicationFilePath(), {u"--panel"_s, small});
+    return process.waitForFinished(PanelPatienceMs) && process.exitStatus() == QProcess::NormalExit
+               ? process.exitCode()
+               : 2;
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
     if (argc > 1 && qstrcmp(argv[1], "--empty") == 0)
         return emptyWindow(argc, argv);
+    if (argc > 1 && qstrcmp(argv[1], "--panel") == 0)
+        return measurePanel(argc, argv);
     const QCoreApplication application(argc, argv);
     const QStringList parts = QCoreApplication::arguments().mid(1);
     if (qEnvironmentVariableIsEmpty("DISPLAY"))
@@ -258,6 +265,8 @@ int main(int argc, char **argv) {
         result |= moving(folder);
     if (wanted(u"many"_s))
         result |= thousands(folder);
+    if (wanted(u"panel"_s))
+        result |= panel(folder);
     if (wanted(u"stop"_s)) {
         const StaleRuns runs = cancelStaleRuns();
         std::printf("a stale run computes for at most %.1f ms after being stopped, all threads together\n",
