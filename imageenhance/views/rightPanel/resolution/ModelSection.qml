@@ -1,17 +1,15 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Layouts
 import PebbleUI
 import imageenhance
 
 // The model, and how strongly it repairs what it enlarges.
-ColumnLayout {
+Column {
     id: _top
 
+    required property FilterControl control
     required property UpscaleModels models
     required property MainSettings settings
-    required property bool locked
-    required property bool nearLeftEdge
     property bool appleProcessor: false
 
     spacing: PebbleStyle.size.spacing
@@ -20,7 +18,7 @@ ColumnLayout {
         id: _title
         type: PbLabel.Type.Title
         text: qsTr("AI model")
-        enabled: !_top.locked
+        enabled: !_top.control.locked
         tooltip.textFormat: Text.StyledText
         tooltip.text: [
             qsTr("The Resize models work best for the following images:<br><br>"),
@@ -31,11 +29,11 @@ ColumnLayout {
         ].join("")
         tooltip.target: _top
         tooltip.targetForY: _title
-        tooltip.alignment: _top.nearLeftEdge ? PbTooltipPlane.Alignment.Right : PbTooltipPlane.Alignment.Left
-        tooltip.offsetX: _private.tipOffset
+        tooltip.alignment: _top.control.tipSide
+        tooltip.offsetX: _top.control.tipOffset
 
         TapHandler {
-            enabled: !_top.locked
+            enabled: !_top.control.locked
             onTapped: {
                 if (_titleClicks.press(Date.now()))
                     _private.choose(Math.max(0, _top.models.indexOf(_top.models.autoModel)));
@@ -45,12 +43,12 @@ ColumnLayout {
 
     PbComboBox {
         id: _choice
-        enabled: !_top.locked && count > 0
+        enabled: !_top.control.locked && count > 0
         model: _top.models.offered
         currentIndex: _top.models.current
         autoValue: _top.models.autoModel
         Accessible.name: qsTr("AI model")
-        Layout.fillWidth: true
+        width: parent.width
         onActivated: index => _private.choose(index)
         // With new rows the toolkit goes to the first.
         onModelChanged: PbBoundProperty.write(_choice, "currentIndex", _top.models.indexOf(_top.models.resolution.model))
@@ -59,7 +57,7 @@ ColumnLayout {
     PbSwitch {
         objectName: "neuralEngine"
         visible: _top.appleProcessor && _top.models.usesNeuralEngine
-        enabled: !_top.locked
+        enabled: !_top.control.locked
         leftPadding: 0
         text: qsTr("Use Neural Engine")
         checked: _top.settings.useNeuralEngine
@@ -71,38 +69,27 @@ ColumnLayout {
 
     StrengthSlider {
         id: _denoise
-        param: "param1"
+        key: "param1"
         text: qsTr("Minor denoise")
         tooltip.text: qsTr("Reduces noise before it is enlarged. Too high can remove detail.")
     }
     StrengthSlider {
         id: _deblur
-        param: "param2"
+        key: "param2"
         text: qsTr("Minor deblur")
         tooltip.text: qsTr("Slightly sharpens the image. Too high can exaggerate edges.")
     }
     StrengthSlider {
         id: _compression
         visible: _top.models.fixesCompression
-        param: "param3"
+        key: "param3"
         text: qsTr("Fix compression")
         tooltip.text: qsTr("Removes the blocks and fringes that strong compression leaves.")
     }
 
-    component StrengthSlider: PbLabeledSlider {
-        required property string param
-
-        enabled: !_top.locked
-        from: 1
-        value: _top.models.percent(param)
-        autoValue: _top.models.marked(param)
-        defaultValue: Math.max(1, _top.models.suggested(param))
-        tooltip.target: _top
-        tooltip.targetForY: label
-        tooltip.alignment: _top.nearLeftEdge ? PbTooltipPlane.Alignment.Right : PbTooltipPlane.Alignment.Left
-        tooltip.offsetX: _private.tipOffset
-        Layout.fillWidth: true
-        onValueChanged: _top.models.setPercent(param, value)
+    component StrengthSlider: FilterSlider {
+        control: _top.control
+        marked: _top.models.autoModel === _top.models.resolution.model
     }
 
     PbDoublePress {
@@ -112,8 +99,6 @@ ColumnLayout {
 
     QtObject {
         id: _private
-
-        readonly property int tipOffset: _top.nearLeftEdge ? PebbleStyle.size.spacingLarge : -PebbleStyle.size.spacingLarge
 
         function choose(index: int): void {
             if (index < _top.models.offered.length)

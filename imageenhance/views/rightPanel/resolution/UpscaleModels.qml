@@ -55,37 +55,11 @@ QtObject {
         return offered.findIndex(entry => entry.value === model);
     }
 
-    // From 1 to 100.
-    function percent(param: string): int {
-        return Math.round(_clamped(resolution.params[param] ?? 0) * 100);
-    }
-
-    // -1 when Autopilot has no value.
-    function suggested(param: string): int {
-        const value = resolution.autoFilter.params?.[param];
-        return value === undefined ? -1 : Math.round(_clamped(value) * 100);
-    }
-
-    // What a slider marks: the suggestion where it is one for the model in use, else -1.
-    function marked(param: string): int {
-        return autoModel === resolution.model ? suggested(param) : -1;
-    }
-
-    // Takes a slider's value, unless the model holds it already: a slider shows what it holds as whole percents.
-    function setPercent(param: string, percent: int): void {
-        if (resolution.filter && Math.abs(_clamped(resolution.params[param] ?? 0) - percent / 100) > 0.005)
-            controls.setParam(filterName, param, percent / 100);
-    }
-
     // `strengths` are the present values of the sliders, which the new model takes over.
     function choose(model: string, strengths: var): void {
         if (!resolution.filter || model === resolution.model)
             return;
         controls.setModel(filterName, model);
         controls.setParams(filterName, strengths);
-    }
-
-    function _clamped(fraction: real): real {
-        return Math.min(Math.max(fraction, 0.01), 1);
     }
 }
