@@ -24,9 +24,14 @@ export function categoryOf(name, controls) {
     return controls?.[name]?.category || name.replace(/\d+$/, "");
 }
 
+// Whether there is a map of filters and an order at all.
+export function hasFilters(preset) {
+    return isMap(preset?.controls) && isList(preset.filterOrder);
+}
+
 // A map of filters in an order, each with a category: what a damaged file doesn't have.
 export function isSound(preset) {
-    return isMap(preset?.controls) && isList(preset.filterOrder)
+    return hasFilters(preset)
         && Array.from(preset.filterOrder).every(name => isMap(preset.controls[name]) && Boolean(preset.controls[name].category));
 }
 

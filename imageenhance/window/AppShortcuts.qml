@@ -68,7 +68,7 @@ Item {
         onActivated: _top.panel.logic.steps.undo()
     }
     Shortcut {
-        sequences: [StandardKey.Redo, "Ctrl+Shift+Z"]
+        sequences: [StandardKey.Redo]
         enabled: _top._image && _top.panel.logic.steps.canRedo
         onActivated: _top.panel.logic.steps.redo()
     }

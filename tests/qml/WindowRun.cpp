@@ -6,9 +6,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QImage>
+#include <QGuiApplication>
+#include <QPixmap>
 #include <QRandomGenerator>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSettings>
 #include <QThread>
 
@@ -24,9 +26,12 @@ WindowRun::WindowRun() {
     for (const char *folder : {"pictures", "bin", "share/orvane-studio"})
         home.mkpath(QLatin1String(folder));
     // An installation of its own, since logs and the session list stand beside the models.
-    std::error_code failed;
-    std::filesystem::create_hard_link(ORVANE_STUDIO, program().toStdString(), failed);
-    EXPECT_TRUE(!failed || QFile::copy(QStringLiteral(ORVANE_STUDIO), program()));
+    for (const QString &built : {QStringLiteral(ORVANE_STUDIO), QStringLiteral(ORVANE_CLI)}) {
+        const QString here = program(QFileInfo(built).fileName());
+        std::error_code failed;
+        std::filesystem::create_hard_link(built.toStdString(), here.toStdString(), failed);
+        EXPECT_TRUE(!failed || QFile::copy(built, here));
+    }
     for (const QString &data : {u"models"_s, u"filterData"_s})
         QFile::link(QStringLiteral(ORVANE_DATA "/") + data, home.filePath(u"share/orvane-studio/"_s + data));
 
@@ -86,14 +91,18 @@ QString WindowRun::sessionFile() const {
     return m_home.filePath(u"share/orvane-studio/Logs/lastSessionFiles.txt"_s);
 }
 
+QString WindowRun::presetFile(const QString &name) const {
+    return m_home.filePath(u"share/orvane-studio/Presets/%1.json"_s.arg(name));
+}
+
 QStringList WindowRun::session() const {
     QFile list(sessionFile());
     return list.open(QFile::ReadOnly) ? QString::fromUtf8(list.readAll()).split(u'\n', Qt::SkipEmptyParts)
                                       : QStringList();
 }
 
-QString WindowRun::program() const {
-    return m_home.filePath(u"bin/orvane-studio"_s);
+QString WindowRun::program(const QString &name) const {
+    return m_home.filePath(u"bin/"_s + name);
 }
 
 void WindowRun::start(const QStringList &arguments) {
@@ -163,6 +172,50 @@ bool WindowRun::pressUntil(const QStringList &names, const std::function<bool()>
 int WindowRun::pressUntilEnd(const QStringList &names) {
     pressUntil(names, [this] { return !isRunning(); });
     return waitForEnd();
+}
+
+bool WindowRun::press(const QStringList &names) {
+    return WindowDriver::send(QStringList(u"key"_s) + names);
+}
+
+bool WindowRun::click(QPoint at) {
+    return WindowDriver::send(
+        {u"mousemove"_s, QString::number(at.x()), QString::number(at.y()), u"click"_s, u"1"_s});
+}
+
+bool WindowRun::drag(QPoint from, QPoint to) {
+    constexpr int Steps = 8; // each far enough apart to be a movement of its own
+    QStringList tool;
+    for (int i = 0; i <= Steps; ++i) {
+        const QPoint at = from + (to - from) * i / Steps;
+        tool << u"mousemove"_s << QString::number(at.x()) << QString::number(at.y());
+        if (i == 0)
+            tool << u"mousedown"_s << u"1"_s;
+        tool << u"sleep"_s << u"0.03"_s;
+    }
+    return WindowDriver::send(tool << u"mouseup"_s << u"1"_s);
+}
+
+QImage WindowRun::screen() {
+    return QGuiApplication::primaryScreen()->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+QByteArrayList WindowRun::complaints() const {
+    QByteArrayList found;
+    for (const QByteArray &line : log().split('\n')) {
+        const bool severe = line.contains("Warn") || line.contains("Error") || line.contains("Fatal");
+        if (severe && (line.contains("qrc:") || line.contains(".qml")))
+            found << line;
+    }
+    return found;
+}
+
+int WindowRun::console(const QStringList &arguments) const {
+    QProcess cli;
+    cli.setProcessEnvironment(m_process.processEnvironment());
+    cli.setStandardOutputFile(QProcess::nullDevice());
+    cli.start(program(u"orvane-cli"_s), arguments);
+    return cli.waitForFinished(120000) ? cli.exitCode() : -1;
 }
 
 double WindowRun::longestBlock() const {

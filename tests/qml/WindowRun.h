@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QByteArrayList>
+#include <QImage>
+#include <QPoint>
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -12,8 +15,8 @@
 /// Wanted are 16 ms; whether a machine under load gives them is for the benchmark to say.
 inline constexpr double BlockedMs = 3000;
 
-/// The window's program with a home, settings, logs and an installation of its own. Driven by keys, as a user
-/// does.
+/// The window's program with a home, settings, logs and an installation of its own. Driven by keys and the
+/// pointer, as a user does.
 class WindowRun : public testing::Test {
 protected:
     WindowRun();
@@ -28,6 +31,8 @@ protected:
     QVariant setting(const QString &key) const;
     QString settingsFile() const;
     QString sessionFile() const;
+    /// Where the preset of this name is kept.
+    QString presetFile(const QString &name) const;
     /// The files that --recover would open.
     QStringList session() const;
 
@@ -51,6 +56,17 @@ protected:
     bool pressUntil(const QStringList &names, const std::function<bool()> &condition);
     /// The same until the program ends: its exit code.
     int pressUntilEnd(const QStringList &names);
+    /// Sends keys at once; they arrive in this order, after all that was sent before.
+    static bool press(const QStringList &names);
+    /// With the left button, in pixels of the screen.
+    static bool click(QPoint at);
+    static bool drag(QPoint from, QPoint to);
+    /// What the screen shows, without the pointer.
+    static QImage screen();
+    /// What was logged as a warning or worse by a document of the window.
+    QByteArrayList complaints() const;
+    /// Runs the console's program in the same home: its exit code.
+    int console(const QStringList &arguments) const;
     /// How long the thread of the interface has computed at most while an event waited, in milliseconds: the
     /// 99th percentile of the worst second so far. Printed, too.
     double longestBlock() const;
@@ -58,7 +74,7 @@ protected:
     int waitForEnd();
 
 private:
-    QString program() const;
+    QString program(const QString &name = QStringLiteral("orvane-studio")) const;
 
     QTemporaryDir m_home;
     QProcess m_process;

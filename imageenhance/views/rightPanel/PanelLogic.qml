@@ -3,6 +3,7 @@ import TControls
 import TFilterGenerator
 import TPresetsManager
 import imageenhance
+import "../../utils/presetReduction.mjs" as Reduction
 
 // The right panel without its screen: the stack of filters, the edit mode, what is taken back, and the ways in which an
 // image comes to its filters.
@@ -67,7 +68,7 @@ QtObject {
 
     function loadPreset(name: string): void {
         const preset = presets.getPreset(name);
-        if (!preset.controls || !preset.filterOrder) {
+        if (!Reduction.hasFilters(preset)) {
             warned(qsTr("Could not apply preset"), qsTr("The file of the preset “%1” is missing or damaged.").arg(name));
             return;
         }
