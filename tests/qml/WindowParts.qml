@@ -223,6 +223,7 @@ TestCase {
     }
     RightPanel {
         id: _panel
+        z: 1
         anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
         engine: _engine
         windowState: _state
