@@ -1,8 +1,10 @@
 import QtQuick
 import QtQuick.Controls
 import QtTest
+import PebbleUI
 import Testing
 import TControls
+import TFilterGenerator
 import TImageIO
 import TPresetsManager
 import imageenhance
@@ -15,6 +17,7 @@ TestCase {
     property int seenWidth: 800 // of the preview
     property int editMode: _panel.editMode
     property bool originalKeyHeld: false
+    property TFilterGenerator recommender: _backends.recommender({})
 
     readonly property alias backends: _backends
     readonly property alias settings: _settings
@@ -29,8 +32,56 @@ TestCase {
     readonly property alias pipeline: _pipeline
     readonly property alias presets: _presets
     readonly property alias workArea: _layer
+    readonly property alias plane: _plane // of tooltips
     property int answers: 0 // of the engine, one for each run that was asked for
     property int cancelled: 0 // of these
+
+    // What is seen in and below an item and passes the test, from the top.
+    function items(root: Item, test: var): list<Item> {
+        return Array.from(root?.children ?? []).reduce((all, child) => child.visible ? [...all, ...items(child, test)] : all, root && test(root) ? [root] : []);
+    }
+
+    // The first such with this value of a property, and with this name for assistive tools. Null where none is.
+    function item(root: Item, key: string, value: var): Item {
+        return items(root, candidate => candidate[key] === value)[0] ?? null;
+    }
+
+    function named(root: Item, name: string): Item {
+        return items(root, candidate => candidate.Accessible.name === name && candidate.width > 0)[0] ?? null;
+    }
+
+    function focusedName(): string {
+        return _panel.Window.activeFocusItem?.Accessible.name ?? "";
+    }
+
+    function press(item: Item, key: int): void {
+        item.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(key);
+    }
+
+    function type(text: string): void {
+        for (const letter of text)
+            keyClick(letter);
+    }
+
+    // What is logged during the work, but for when runs are asked for.
+    function logged(work: var): list<string> {
+        _lines.begin();
+        work();
+        return _lines.end().filter(line => !line.startsWith("[PROC]"));
+    }
+
+    // One warning of the engine with this text comes of the work, and no other.
+    function warns(text: string, work: var): void {
+        _lines.expectWarning(text);
+        work();
+        verify(_lines.warningCame(), text);
+    }
+
+    // Rows of a table by their names.
+    function tagged(rows: var): var {
+        return Object.entries(rows).map(([tag, row]) => Object.assign({ tag }, row));
+    }
 
     // With pictures of 1000 x 800, the first one current; all that follows has happened and is forgotten.
     function open(paths: list<string>): void {
@@ -110,8 +161,15 @@ TestCase {
     width: 900
     height: 700
 
+    Component.onCompleted: PebbleStyle.tooltipPlane = _plane
+    Component.onDestruction: PebbleStyle.tooltipPlane = null
+    Window.onWindowChanged: _helpers.mouseListener.listenTo(Window.window)
+
     FakeBackends {
         id: _backends
+    }
+    LogLines {
+        id: _lines
     }
     ApplicationWindow {
         id: _window
@@ -165,13 +223,13 @@ TestCase {
     }
     RightPanel {
         id: _panel
-        x: 900 - width
-        height: 700
+        z: 1
+        anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
         engine: _engine
         windowState: _state
         settings: _settings
         presets: _presets
-        generator: _backends.recommender({})
+        generator: _top.recommender
         navigator: _preview.navigator
         workArea: _layer
         shiftHeld: false
@@ -180,6 +238,11 @@ TestCase {
         id: _layer
         anchors.fill: parent
         z: 1
+    }
+    PbTooltipPlane {
+        id: _plane
+        anchors.fill: parent
+        z: 2
     }
     ImagePreview {
         id: _preview

@@ -1,6 +1,5 @@
 import QtQuick
 import QtTest
-import Testing
 import imageenhance
 
 // The steps of an Autopilot run: the ladder in a table, and a whole run of the real controller.
@@ -14,9 +13,6 @@ WindowParts {
     readonly property var given: ({ controls: parts.controls, engine: parts.engine, imageOpen: true, loading: false, loadingStatus: "", lensCorrectionEnabled: true, lensCorrected: OptionalBoolean.Unset })
     readonly property var all: ["loading", "subject", "faces", "params", "final"]
 
-    LogLines {
-        id: lines
-    }
     Component {
         id: rules
         AutoPilotRules {}
@@ -126,17 +122,17 @@ WindowParts {
         parts.backends.hold([]);
         parts.settle();
         made.setFilter(all);
-        lines.begin();
-        report({ noise_level: 2 });
-        compare(made.currentStep, AutoPilotStatus.NoFiles);
-        compare(lines.end(), ["Could not determine current step! {\"noise_level\":2}"]);
+        compare(logged(() => {
+            report({ noise_level: 2 });
+            compare(made.currentStep, AutoPilotStatus.NoFiles);
+        }), ["Could not determine current step! {\"noise_level\":2}"]);
     }
 
     // From a path to the answer, each step when the engine says so.
     function test_view_follows_a_run(): void {
         const steps = ["init", "faces", "params", "final"];
         const seen = createTemporaryObject(view, this, { controls: parts.controls, engine: parts.engine });
-        const shown = () => Array.from(found(seen, item => item instanceof AutoPilotStep)).map(step => "->+/"[step.status]).join("");
+        const shown = () => items(seen, item => item instanceof AutoPilotStep).map(step => "->+/"[step.status]).join("");
         parts.backends.addFile("/new.jpg", 1000, 800);
         parts.backends.scriptAnalyses(steps, { faceCount: 3, ap_params: { noise: 0.2, blur: 0.3 } });
         parts.backends.hold(["reads"]);
@@ -151,11 +147,7 @@ WindowParts {
             wait(30);
             compare(shown(), signs, "nothing moves by itself");
         }
-        compare(found(seen, item => item instanceof AutoPilotStep).map(step => step.text), ["Image loaded", "Detected 3 faces", "Detected medium noise and medium blur", "Calculated auto-suggested values"]);
+        compare(items(seen, item => item instanceof AutoPilotStep).map(step => step.text), ["Image loaded", "Detected 3 faces", "Detected medium noise and medium blur", "Calculated auto-suggested values"]);
         parts.settle();
-    }
-
-    function found(item: Item, test: var): var {
-        return Array.from(item.children).reduce((all, child) => [...all, ...found(child, test)], test(item) ? [item] : []);
     }
 }

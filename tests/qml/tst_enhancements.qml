@@ -1,6 +1,6 @@
 import QtQuick
 import QtTest
-import Testing
+import PebbleUI
 import imageenhance
 import "../../imageenhance/utils/enhancementRow.mjs" as Rules
 import "../../imageenhance/utils/reasons.mjs" as Reasons
@@ -10,9 +10,6 @@ EnhancementParts {
 
     name: "Enhancements"
 
-    LogLines {
-        id: lines
-    }
     SignalSpy {
         id: reports
         target: report
@@ -30,6 +27,13 @@ EnhancementParts {
 
     function order(): list<string> {
         return Array.from(panelState.currentFilterStack);
+    }
+
+    // A button of a row, which is there while the pointer is over the row.
+    function pressButton(name: string, text: string): void {
+        mouseMove(row(name), 100, 24);
+        tryVerify(() => named(row(name), text) !== null);
+        mouseClick(named(row(name), text));
     }
 
     // Drags a row by its middle so that it comes to lie on another one.
@@ -59,9 +63,9 @@ EnhancementParts {
         compare([panelState.refiningFilter, view("Sharpen").visible, view("Denoise").visible], ["Sharpen", true, false]);
         mouseClick(row("Denoise"), 100, 24);
         compare([panelState.refiningFilter, view("Sharpen").visible, view("Denoise").visible], ["Denoise", false, true]);
-        compare([layer.sidebarOffset, view("Denoise").x + 252, view("Denoise").height], [252, width - 272, layer.height]);
+        compare([panels.sidebarOffset, view("Denoise").x + 252, view("Denoise").height], [252, width - 272, panels.height]);
         mouseClick(row("Denoise"), 100, 24);
-        compare([panelState.refiningFilter, view("Denoise").visible, layer.sidebarOffset], ["", false, 0]);
+        compare([panelState.refiningFilter, view("Denoise").visible, panels.sidebarOffset], ["", false, 0]);
         controls.setParam("Sharpen", "enabled", false);
         mouseClick(row("Sharpen"), 100, 24);
         compare([actions.isEnabled("Sharpen"), controls.currentCategory], [true, "Sharpen"], "a hidden filter is shown first");
@@ -69,11 +73,11 @@ EnhancementParts {
 
     function test_row_buttons(): void {
         mouseClick(row("Sharpen"), 100, 24);
-        mouseClick(row("Sharpen"), list.width - 72, 24);
-        compare([actions.isEnabled("Sharpen"), panelState.refiningFilter], [false, ""]);
-        mouseClick(row("Sharpen"), list.width - 72, 24);
-        compare([actions.isEnabled("Sharpen"), panelState.refiningFilter], [true, ""]);
-        mouseClick(row("Sharpen"), list.width - 24, 24);
+        for (const [button, enabled] of [["Hide", false], ["Show", true]]) {
+            pressButton("Sharpen", button);
+            compare([actions.isEnabled("Sharpen"), panelState.refiningFilter], [enabled, ""]);
+        }
+        pressButton("Sharpen", "Remove");
         compare(order(), ["Denoise", "Exposure Adjust", "Enhance"]);
         verify(!controls.currentControls.Sharpen);
     }
@@ -136,37 +140,65 @@ EnhancementParts {
         keyClick(Qt.Key_Escape);
         compare([panelState.refiningFilter, list.activeFocus], ["", true]);
         keyClick(Qt.Key_Up, Qt.AltModifier);
-        compare([order()[0], list.currentIndex], ["Sharpen", 0]);
+        compare(order()[0], "Sharpen");
+        tryCompare(list, "currentIndex", 0);
         keyClick(Qt.Key_F10, Qt.ShiftModifier);
         wait(50);
         keyClick(Qt.Key_Down);
         wait(50);
         keyClick(Qt.Key_Return);
         verify(!actions.isEnabled("Sharpen"), "the menu's first entry");
+        tryVerify(() => list.activeFocus);
         keyClick(Qt.Key_Delete);
         compare(order(), ["Denoise", "Exposure Adjust", "Enhance"]);
     }
 
+    function test_drag_of_a_slider_is_one_step_and_one_run(): void {
+        mouseClick(row("Denoise"), 100, 24);
+        settle();
+        controls.forgetEdits();
+        forget();
+        const strength = () => controls.currentControls.Denoise.params.param1_normalv2;
+        const before = strength();
+        const knob = (items(view("Denoise"), item => item instanceof PbLabeledSlider)[0] as PbLabeledSlider).slider;
+        const steps = parts.panel.logic.steps;
+        mousePress(knob, knob.width / 4, knob.height / 2);
+        for (const x of [2, 3, 4, 5])
+            mouseMove(knob, knob.width * x / 7, knob.height / 2, 5);
+        wait(2 * steps.pause);
+        compare([steps.canUndo, backends.runs().length], [false, 0], "not before its end");
+        mouseRelease(knob, knob.width * 5 / 7, knob.height / 2);
+        const after = strength();
+        verify(after !== before);
+        compare(parts.runs().map(run => run.params.Denoise.params.param1_normalv2), [after]);
+        for (const [step, value] of [[() => steps.undo(), before], [() => steps.redo(), after]]) {
+            forget();
+            tryVerify(() => steps.canUndo || steps.canRedo);
+            step();
+            compare([strength(), panelState.refiningFilter], [value, "Denoise"]);
+            compare(parts.runs().length, 1);
+        }
+        compare(knob.value, Math.round(after * 100));
+    }
+
     function test_panels_go_with_their_rows(): void {
-        const children = layer.children.length;
+        const children = panels.children.length;
         mouseClick(row("Sharpen"), 100, 24);
         controls.setCurrentIndex(1);
         settle();
-        compare([panelState.refiningFilter, list.count, layer.children.length], ["", 0, children - 4]);
+        compare([panelState.refiningFilter, list.count, panels.children.length], ["", 0, children - 4]);
         for (let i = 0; i < 3; ++i) {
             panelState.addNewFilterToHistory("Denoise", "Denoise", true);
             verify(view("Denoise").visible, "opens with its row");
             panelState.removeFilter(0, "Denoise");
-            compare([panelState.refiningFilter, layer.children.length], ["", children - 4]);
+            compare([panelState.refiningFilter, panels.children.length], ["", children - 4]);
         }
     }
 
     function test_row_without_panel(): void {
-        lines.begin();
-        panelState.addNewFilterToHistory("Face Recovery");
-        const logged = lines.end().join("\n");
-        verify(logged.includes("Error creating focus column object") && logged.includes("Refinement panel was not created."), logged);
-        tryVerify(() => row("Face Recovery") !== null);
+        const told = logged(() => panelState.addNewFilterToHistory("Face Recovery")).join("\n");
+        verify(told.includes("Error creating focus column object") && told.includes("Refinement panel was not created."), told);
+        tryVerify(() => row("Face Recovery")?.adjustedFilterName === "Face Recovery");
         compare([view("Face Recovery"), row("Face Recovery").subLine], [null, "No faces selected"]);
     }
 
@@ -204,7 +236,7 @@ EnhancementParts {
     function test_spinner_runs_while_a_run_begins(): void {
         backends.scriptRuns(0.4, "Preparing", "");
         backends.hold(["runs"]);
-        controls.setFilterOrder(order());
+        controls.setParam("Denoise", "param1_normalv2", Math.random());
         tryVerify(() => row("Sharpen").starting, 60000);
         backends.hold([]);
         tryVerify(() => !row("Sharpen").starting, 60000);

@@ -24,8 +24,6 @@ WindowParts {
         resizingSupported: true
         psAutomate: false
         onEstimateFileSize: parts.log.push("estimate")
-        onDerivedChangeBegins: parts.log.push("begins")
-        onDerivedChangeEnds: parts.log.push("ends")
     }
     ResolutionFilterControl {
         id: control
@@ -54,20 +52,9 @@ WindowParts {
         parts.log = [];
     }
 
-    // The first item below whose property has the value; of visible ones only.
-    function found(item: Item, key: string, value: var): Item {
-        for (const child of item.children) {
-            const hit = !child.visible ? null : child[key] === value ? child : found(child, key, value);
-            if (hit)
-                return hit;
-        }
-        return null;
-    }
-
     function typeInto(field: string, text: string, key: int): void {
-        mouseClick(found(control, "accessibleName", field));
-        for (const letter of text)
-            keyClick(letter);
+        mouseClick(item(control, "accessibleName", field));
+        type(text);
         keyClick(key);
         parts.turns();
     }
@@ -100,13 +87,13 @@ WindowParts {
         compare(size(), row.expect ?? [1, 1000, 800, "scale"]);
         compare(parts.log, row.expect ? ["estimate"] : []);
         compare(runs.map(run => [run.params.Enhance.params.scale, run.params.Enhance.params.updated]), row.expect ? [[row.expect[0], false]] : []);
-        const field = found(control, "accessibleName", row.field);
+        const field = item(control, "accessibleName", row.field);
         compare([field.inputFocus, field.text], [false, field.value.toFixed(field.decimals)]);
-        compare(found(control, "accessibleName", "Width").highlight, size()[3] === "width");
+        compare(item(control, "accessibleName", "Width").highlight, size()[3] === "width");
     }
 
     function test_shortcuts(): void {
-        const button = text => found(control, "text", text);
+        const button = text => item(control, "text", text);
         for (const [text, scale] of [["2x", 2], ["4x", 4], ["Max", 6], ["1x", 1]]) {
             mouseClick(button(text));
             compare(size(), [scale, 1000 * scale, 800 * scale, "scale"]);
@@ -114,7 +101,7 @@ WindowParts {
             compare(button("Custom").selected, text === "Max");
         }
         mouseClick(button("Custom"));
-        verify(button("Custom").selected && !button("1x").selected && found(control, "accessibleName", "Scale").inputFocus);
+        verify(button("Custom").selected && !button("1x").selected && item(control, "accessibleName", "Scale").inputFocus);
         keyClick(Qt.Key_Escape);
         verify(button("1x").selected);
         parts.controls.setCrop(Qt.rect(0, 0, 1, 1), 0);
@@ -131,10 +118,10 @@ WindowParts {
     function test_units(): void {
         typeInto("Width", "1440", Qt.Key_Return);
         const choose = (field, key) => {
-            found(found(control, "accessibleName", field), "currentIndex", resolution.resolutionUnit - 1).forceActiveFocus(Qt.TabFocusReason);
+            item(item(control, "accessibleName", field), "currentIndex", resolution.resolutionUnit - 1).forceActiveFocus(Qt.TabFocusReason);
             keyClick(key);
             parts.settle();
-            return [params().resolutionUnit, parts.settings.resolutionUnit, Math.round(params().resolution * 100) / 100, found(control, "accessibleName", "Width").text];
+            return [params().resolutionUnit, parts.settings.resolutionUnit, Math.round(params().resolution * 100) / 100, item(control, "accessibleName", "Width").text];
         };
         compare(choose("Width", Qt.Key_Down), [TImageSettings.Inches, TImageSettings.Inches, 72, "20.000"]);
         compare(choose("Height", Qt.Key_Down), [TImageSettings.Centimeters, TImageSettings.Centimeters, 28.35, "50.800"]);
@@ -153,11 +140,15 @@ WindowParts {
     function test_crop_leaves_what_the_user_fixed(): void {
         typeInto("Width", "2000", Qt.Key_Enter);
         parts.settle();
+        parts.controls.forgetEdits();
         parts.log = [];
         parts.controls.setCrop(Qt.rect(0, 0, 0.5, 1), 0);
         parts.settle();
         compare(size(), [4, 2000, 3200, "width"]);
-        compare(parts.log, ["begins", "ends", "estimate"]);
+        compare(parts.log, ["estimate"]);
+        compare([parts.controls.undoEdit(), size(), parts.controls.canUndo], [true, [2, 2000, 1600, "width"], false], "crop and size are one step");
+        parts.controls.redoEdit();
+        parts.settle();
         parts.controls.setCrop(Qt.rect(0, 0, 0.1, 1), 0);
         parts.settle();
         compare(size(), [6, 600, 4800, "width"]);
@@ -192,14 +183,14 @@ WindowParts {
     }
 
     function test_model_takes_the_strengths_along(): void {
-        const slider = param => found(control, "param", param);
+        const slider = param => item(control, "param", param);
         compare([slider("param1").value, slider("param2").value, slider("param3").value], [37, 20, 50]);
         parts.controls.setParam("Enhance", "param1", 0.372);
         compare([slider("param1").value, params().param1], [37, 0.372]);
         slider("param1").slider.forceActiveFocus(Qt.TabFocusReason);
         keyClick(Qt.Key_Right);
         compare(params().param1, 0.38);
-        const choice = found(control, "textRole", "text");
+        const choice = item(control, "textRole", "text");
         compare(choice.displayText, "Standard (v1)");
         compare(choice.model.map(model => model.value), ["Standard V2", "CGI", "Standard", "High Fidelity"]);
         choice.forceActiveFocus(Qt.TabFocusReason);
@@ -207,14 +198,14 @@ WindowParts {
         compare([parts.controls.currentControls.Enhance.model, params().param1, params().param2, params().param3], ["CGI", 0.38, 0.2, 0.5]);
         compare(slider("param3"), null);
         for (const press of [1, 2])
-            mouseClick(found(control, "text", "AI model"));
+            mouseClick(item(control, "text", "AI model"));
         compare(parts.controls.currentControls.Enhance.model, "Standard V2", "without a suggestion the first one");
     }
 
     function test_locked(): void {
         control.locked = true;
         typeInto("Width", "2000", Qt.Key_Enter);
-        mouseClick(found(control, "text", "2x"));
+        mouseClick(item(control, "text", "2x"));
         control.locked = false;
         compare(size(), [1, 1000, 800, "scale"]);
     }

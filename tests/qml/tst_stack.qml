@@ -190,4 +190,29 @@ WindowParts {
         logic.autopilotNeedsConfirmation.disconnect(listener);
         compare([asked, state()], [1, before]);
     }
+
+    // Kept on purpose: the result's message is asked for under a name that it has not.
+    function test_preset_whose_upscale_is_refused_ends_in_an_error(): void {
+        parts.open(["/a.jpg"]);
+        parts.presets.savePreset({ name: "larger", version: 1, filterOrder: ["Enhance"], controls: { Enhance: { category: "Enhance", enabled: true, params: { mode: "scale", scale: 4 } } } });
+        const before = state();
+        const rows = Array.from(stack.enhancementsModel.names());
+        const beside = parts.workArea.children[0] as PanelLayer;
+        parts.warns("TypeError: Cannot read property 'length' of undefined", () => beside.addPanel.loadPreset("larger", false));
+        compare([Array.from(stack.enhancementsModel.names()), Array.from(stack.currentFilterStack)], [rows, rows]);
+        compare(state(), before);
+    }
+
+    function test_what_another_place_applied_is_where_a_visit_begins(): void {
+        parts.open(["/a.jpg", "/b.jpg"]);
+        parts.controls.setParam("Denoise", "param1_normalv2", 0.7);
+        parts.controls.recordEdit();
+        verify(logic.steps.canUndo);
+        parts.controls.setCurrentIndex(1);
+        parts.settle();
+        parts.controls.applyPresetToImage("/a.jpg", { Sharpen: { category: "Sharpen", model: "Sharpen Strong", enabled: true, params: {} } }, ["Sharpen"], true, false);
+        parts.controls.setCurrentIndex(0);
+        parts.settle();
+        compare([stack.currentFilterStack.includes("Sharpen"), logic.steps.canUndo, logic.steps.canRedo], [true, false, false]);
+    }
 }

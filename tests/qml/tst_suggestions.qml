@@ -1,8 +1,5 @@
 import QtQuick
 import QtTest
-import PebbleUI
-import TControls
-import TFilterGenerator
 import imageenhance
 import "../../imageenhance/utils/suggestions.mjs" as Suggestions
 
@@ -22,92 +19,42 @@ WindowParts {
             "['DENOISE-All', 'EXPOSURE-Subject']": 1, "['DENOISE-All', 'TEMPERATURE-All']": 1e-20
         })
     readonly property var offered: ["Denoise", "Sharpen", "Enhance", "Exposure Adjust", "White Balance Adjust"]
-    property size inputSize: Qt.size(1000, 800)
-    property TFilterGenerator generator
-    property SuggestionList list
-    property SuggestiveAutoPilotCard card
+    readonly property SuggestionList list: parts.panel.suggestions
+    readonly property RightPanelState stack: parts.panel.logic.stack
+    readonly property SuggestiveAutoPilotCard card: parts.items(parts.panel, item => item instanceof SuggestiveAutoPilotCard)[0] as SuggestiveAutoPilotCard
 
-    FilterVocabulary {
-        id: words
-        controls: parts.controls
-    }
-    EditModes {
-        id: modes
-        faceCount: -1
-    }
-    RightPanelState {
-        id: stack
-        controls: parts.controls
-        engine: parts.engine
-        modes: modes
-        vocabulary: words
-        exporting: false
-        problems: ({})
-    }
-    Component {
-        id: lists
+    Connections {
+        target: parts.list
 
-        SuggestionList {
-            controls: parts.controls
-            generator: parts.generator
-            settings: parts.settings
-            engine: parts.engine
-            vocabulary: words
-            inputSize: parts.inputSize
-            rowCount: stack.enhancementsModel.count
-            autopilotRunning: parts.windowState.autopilotRunning
-            onWanted: (category, subject) => {
-                parts.log.push([category, subject]);
-                stack.addNewFilterToHistory(category, stack.getAdjustedFilterName(category), true);
-            }
+        function onWanted(category: string, subject: string): void {
+            parts.log.push([category, subject]);
         }
     }
-    PbButton {
-        id: before
-    }
-    Item {
-        id: place
-        z: 1
+    Connections {
+        target: parts.card
 
-        Component {
-            id: cards
-
-            SuggestiveAutoPilotCard {
-                suggestions: parts.list
-                collapsed: false
-                onHoverSubject: (show, subject) => parts.log.push([show, subject])
-                onSaveAsPreset: parts.log.push("save")
-                onExpandPanel: parts.log.push("expand")
-            }
+        function onHoverSubject(show: bool, subject: string): void {
+            parts.log.push([show, subject]);
         }
     }
-    PbButton {
-        id: after
-    }
-    PbTooltipPlane {
-        id: plane
-        anchors.fill: parent
+    Connections {
+        target: parts.panel
+
+        function onSaveAsPreset(): void {
+            parts.log.push("save");
+        }
     }
 
     function initTestCase(): void {
-        PebbleStyle.tooltipPlane = plane;
         parts.settings.autopilotRecommendFilters = false;
         parts.settings.autopilotSubjectType = "Subject";
-        parts.generator = parts.backends.recommender(parts.usual);
     }
 
     function init(): void {
         parts.settings.autopilotFaceDetect = "auto";
-        parts.inputSize = Qt.size(1000, 800);
+        parts.settings.rightPanelCollapsed = false;
+        parts.recommender = parts.backends.recommender(parts.usual);
         offer(parts.offered);
-        stack.clearEditsColumn();
-    }
-
-    // The card goes before its list.
-    function cleanup(): void {
-        parts.card?.destroy();
-        parts.card = null;
-        wait(0);
     }
 
     function offer(categories: list<string>): void {
@@ -116,10 +63,9 @@ WindowParts {
 
     // Two pictures, the first of which has been analysed with this answer.
     function analysed(answer: var): void {
+        parts.backends.advise(answer);
         parts.open(["/a.jpg", "/b.jpg"]);
-        parts.list = createTemporaryObject(lists, parts) as SuggestionList;
-        parts.engine.autoPilotFinished(parts.engine.inputImage.uid, answer);
-        parts.turns();
+        parts.backends.advise({});
     }
 
     function rows(): list<var> {
@@ -171,18 +117,20 @@ WindowParts {
             { tag: "faces", offered: faces, made: withFaces },
             { tag: "no faces found", offered: faces, problems: { autoFaces: [] }, made: usually },
             { tag: "faces not looked for", offered: faces, faceDetect: "none", made: usually },
-            { tag: "just too large", size: Qt.size(6000, 4000), made: ["Denoise-All", "Sharpen-Subject", "Exposure Adjust-Subject"] },
-            { tag: "just not too large", size: Qt.size(6000, 3999), made: usually },
+            { tag: "just too large", width: 6000, made: ["Denoise-All", "Sharpen-Subject", "Exposure Adjust-Subject"] },
+            { tag: "just not too large", width: 5999, made: usually },
             { tag: "sharpened as preferred", subject: "Portrait", made: ["Denoise-All", "Sharpen-Portrait", "Enhance-"] }
         ];
     }
 
     function test_what_an_image_is_offered(row): void {
-        analysed({});
         offer(row.offered ?? parts.offered);
+        parts.backends.addFile("/sized.jpg", row.width ?? 1000, 4000);
+        parts.open([]);
+        parts.controls.loadImages(["/sized.jpg"]);
+        parts.settle();
         parts.settings.autopilotFaceDetect = row.faceDetect ?? "auto";
         parts.settings.autopilotSubjectType = row.subject ?? "Subject";
-        parts.inputSize = row.size ?? Qt.size(1000, 800);
         parts.engine.autoProblemsUpdated("another", { autoFaces: [] });
         parts.engine.autoProblemsUpdated(parts.engine.inputImage.uid, row.problems ?? {});
         parts.list.regenerate();
@@ -219,8 +167,9 @@ WindowParts {
         parts.list.take(0);
         parts.controls.setAutoPilotSuggestionOrder([{ filterName: "Denoise", subject: "Background" }]);
         parts.controls.setCurrentIndex(1);
+        parts.settle();
         parts.controls.setCurrentIndex(0);
-        stack.showStack(parts.controls.filterOrder);
+        parts.settle();
         parts.list.take(0);
         compare(parts.controls.filterOrder, ["Denoise", "Denoise2"]);
         compare(["Denoise", "Denoise2"].map(name => parts.controls.getSubjectSettings(name).model), ["Background", "All"]);
@@ -238,56 +187,46 @@ WindowParts {
 
     function shown(answer: var): void {
         analysed(answer);
-        parts.card = cards.createObject(place) as SuggestiveAutoPilotCard;
         waitForRendering(parts.card);
         wait(250); // until the rows have come in
     }
 
-    function named(name: string): Item {
-        const find = item => item.Accessible?.name === name && item.visible && item.width > 0 ? item : Array.from(item.children).map(find).find(found => found);
-        return find(card) ?? null;
-    }
-
-    function focused(): string {
-        return parts.card.Window.activeFocusItem?.Accessible.name ?? "";
-    }
-
     function test_keyboard(): void {
         shown({});
-        before.forceActiveFocus();
+        parts.named(parts.panel, "Add enhancements").forceActiveFocus();
         keyClick(Qt.Key_Tab);
-        compare(focused(), "Denoise all");
+        compare(parts.focusedName(), "Denoise all");
         keyClick(Qt.Key_Down);
-        compare(focused(), "Sharpen the subject");
+        compare(parts.focusedName(), "Sharpen the subject");
         keyClick(Qt.Key_Tab);
-        compare(after.activeFocus, true, "the card is one stop");
+        verify(parts.items(parts.card, item => item.activeFocus).length === 0, "the card is one stop");
         keyClick(Qt.Key_Tab, Qt.ShiftModifier);
-        compare(focused(), "Sharpen the subject");
+        compare(parts.focusedName(), "Sharpen the subject");
         keyClick(Qt.Key_Return);
-        compare([parts.log.shift(), focused()], [["Sharpen", "Subject"], "Upscale"]);
+        compare([parts.log.shift(), parts.focusedName()], [["Sharpen", "Subject"], "Upscale"]);
         for (const stop of ["How do we make suggestions?", "Save edits as a new preset"]) {
             keyClick(Qt.Key_Down);
-            compare(focused(), stop);
+            compare(parts.focusedName(), stop);
         }
         keyClick(Qt.Key_Return);
         compare(parts.log, ["save"]);
         for (let i = 0; i < 9; ++i)
             keyClick(Qt.Key_Up);
         keyClick(Qt.Key_Space);
-        compare([parts.card.minimized, focused()], [true, "Show suggestions"]);
+        compare([parts.card.minimized, parts.focusedName()], [true, "Show suggestions"]);
         keyClick(Qt.Key_Return);
-        compare([parts.card.minimized, focused()], [false, "Hide suggestions"]);
+        compare([parts.card.minimized, parts.focusedName()], [false, "Hide suggestions"]);
     }
 
     function test_pointer(): void {
         shown({});
-        const subject = findChild(named("Sharpen the subject"), "subject");
+        const subject = findChild(parts.named(parts.card, "Sharpen the subject"), "subject");
         mouseMove(subject, 4, 4);
         compare(parts.log, [[true, "Subject"]]);
         mouseClick(subject, 4, 4);
         tryVerify(() => parts.log.length === 3);
         compare(parts.log.slice(1), [["Sharpen", "Subject"], [false, "Subject"]]);
-        mouseClick(named("Denoise all"));
+        mouseClick(parts.named(parts.card, "Denoise all"));
         compare(parts.log.length, 3, "not while the next is looked for");
     }
 
@@ -299,14 +238,14 @@ WindowParts {
         parts.card.minimized = true;
         compare(parts.card.height, 36);
         parts.card.minimized = false;
-        parts.generator = parts.backends.recommender({});
+        parts.recommender = parts.backends.recommender({});
         parts.list.regenerate();
         tryCompare(parts.card, "height", 90);
-        verify(named("No more suggestions for this image"));
-        parts.generator = parts.backends.recommender(parts.usual);
-        parts.card.collapsed = true;
+        verify(parts.named(parts.card, "No more suggestions for this image"));
+        parts.settings.rightPanelCollapsed = true;
         compare([parts.card.width, parts.card.height], [48, 48]);
-        mouseClick(named("0 new suggestions"));
-        compare(parts.log.pop(), "expand");
+        tryCompare(parts.panel, "width", 48);
+        mouseClick(parts.named(parts.card, "0 new suggestions"));
+        compare(parts.settings.rightPanelCollapsed, false);
     }
 }

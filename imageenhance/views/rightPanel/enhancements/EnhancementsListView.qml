@@ -24,10 +24,11 @@ ListView {
         if (!row)
             return;
         _menu.about(row.adjustedFilterName, row.parentCategory, row.displayText);
+        // Below the list and not the row, which the menu may remove.
         if (atPointer)
-            _menu.popup();
+            _menu.popup(_top);
         else
-            _menu.popup(row, PebbleStyle.size.spacingLarge, rowHeight);
+            _menu.popup(_top, row.mapToItem(_top, PebbleStyle.size.spacingLarge, rowHeight));
     }
 
     function _moveRow(step: int): void {
@@ -86,8 +87,8 @@ ListView {
 
     RowMenu {
         id: _menu
-        parent: _top
         actions: _top.actions
+        onClosed: _top.forceActiveFocus(Qt.PopupFocusReason) // the keys go on where they were
     }
     RowDrag {
         id: _drag
