@@ -249,7 +249,7 @@ EnhancementParts {
             { tag: "noise", category: "Denoise", reason: { measured: 12.04, threshold: 3.4, text: "t" }, sentence: "Noise measured: 12 of 255, from 3.4 on" },
             { tag: "noise of a RAW file below the threshold", category: "RAW", reason: { measured: 1.239, threshold: 2, text: "t" }, sentence: "Noise measured: 1.24 of 255. t" },
             { tag: "blur", category: "Sharpen", reason: { measured: 1.5, threshold: 1.15, text: "t" }, sentence: "Blur measured: 1.5 pixels, from 1.15 on" },
-            { tag: "small", category: "Enhance", reason: { measured: 2e6, threshold: 5333333, text: "t" }, sentence: "Size measured: 2 megapixels, up to 5.33" },
+            { tag: "small", category: "Enhance", reason: { measured: 2e6, threshold: 5333333, text: "t" }, sentence: "Size measured: 2 megapixels, enlarged up to 5.33" },
             { tag: "size of the preferences", category: "Enhance", reason: { measured: 123456789, threshold: 5333333, text: "t" }, sentence: "Size measured: 123 megapixels. t" },
             { tag: "dark", category: "Exposure Adjust", reason: { measured: 0.1, threshold: 0.2, text: "t" }, sentence: "Brightness measured: 10 %, up to 20 %" },
             { tag: "bright", category: "Exposure Adjust", reason: { measured: 0.912, threshold: 0.85, text: "t" }, sentence: "Brightness measured: 91.2 %, from 85 % on" },

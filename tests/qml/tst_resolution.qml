@@ -35,6 +35,8 @@ WindowParts {
         parentCategory: "Enhance"
         resolution: resolution
         settings: parts.settings
+        locked: false
+        nearLeftEdge: false
     }
 
     function initTestCase(): void {
