@@ -55,6 +55,7 @@ EnhancementParts {
         wait(50);
         mouseClick(item);
         settle();
+        wait(150); // the menu leaves, and rows move
     }
 
     function test_click_toggles_panel(): void {

@@ -37,10 +37,6 @@ WindowParts {
             isMac: parts.isMac
         }
     }
-    Component {
-        id: nameRules
-        PresetNameRules {}
-    }
 
     function filter(category: string, more = {}): var {
         return Object.assign({ category, model: "m", enabled: true, params: { p: 0.5 }, subjectSettings: { model: "All", strokes: [] } }, more);
@@ -131,7 +127,7 @@ WindowParts {
         Reduction.reduced(row.preset); // reads anything
     }
 
-    // Its name
+    // Its name; which ones are free is shown by the dialogs
 
     function test_characters_data(): var {
         const rows = ["\\", "/", ":", "<", ">", "?", "*", "\"", "|", ".", "'", "&", "%", "ü", " "];
@@ -144,21 +140,6 @@ WindowParts {
             field.text = `a${row.tag}b`;
             compare(field.acceptableInput, mac ? row.onMac : row.onWindows);
         }
-    }
-
-    function test_names_data(): var {
-        return [
-            { tag: "new", name: "c", free: true },
-            { tag: "taken", name: "a", free: false },
-            { tag: "taken in another case", name: "B", free: false },
-            { tag: "its own", own: "a", name: "a", free: true },
-            { tag: "its own in another case", own: "a", name: "A", free: false }
-        ];
-    }
-
-    function test_names(row): void {
-        const rules = createTemporaryObject(nameRules, this, { taken: ["a", "b"], ownName: row.own ?? "" });
-        compare(rules.isFree(row.name), row.free);
     }
 
     // The dialogs
