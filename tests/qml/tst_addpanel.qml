@@ -1,11 +1,10 @@
 import QtQuick
 import QtTest
 import PebbleUI
-import TControls
 import imageenhance
 
 // The flyout with keys and pointer.
-TestCase {
+WindowParts {
     id: top
 
     name: "AddPanel"
@@ -15,20 +14,7 @@ TestCase {
     height: 600
 
     readonly property var all: ["Denoise", "Sharpen", "Exposure Adjust", "White Balance Adjust", "Face Recovery", "Text Recovery", "Enhance", "Inpaint"]
-    property var log: []
 
-    TControls {
-        id: controls
-    }
-    FilterVocabulary {
-        id: words
-        controls: controls
-    }
-    PbTooltipPlane {
-        id: plane
-        anchors.fill: parent
-        z: 1
-    }
     Item {
         id: button
         x: 560
@@ -42,8 +28,9 @@ TestCase {
     EnhancementListPanel {
         id: panel
 
+        z: 2
         presets: []
-        vocabulary: words
+        vocabulary: top.panel.logic.vocabulary
         faceCount: 2
         stackHasEnhance: false
         noiseLevel: -1
@@ -71,14 +58,6 @@ TestCase {
         controls.modelParamInfo = categories.reduce((info, category) => Object.assign(info, { [category]: { "Model": {} } }), {});
     }
 
-    function initTestCase(): void {
-        PebbleStyle.tooltipPlane = plane;
-    }
-
-    function cleanupTestCase(): void {
-        PebbleStyle.tooltipPlane = null;
-    }
-
     function init(): void {
         panel.hide();
         Object.assign(panel, { presets: [], faceCount: 2, stackHasEnhance: false, noiseLevel: -1, blurLevel: -1, shiftHeld: false, resizingSupported: true, windowHeight: 800, filesListHeight: 0, panelCollapsed: false });
@@ -88,17 +67,12 @@ TestCase {
         log = [];
     }
 
-    // Of all that is seen in the panel.
-    function found(item: Item, test: var): var {
-        return Array.from(item.children).reduce((all, child) => [...all, ...found(child, test)], test(item) ? [item] : []);
-    }
-
-    function entries(): list<AddPanelEntry> {
-        return found(panel, item => item instanceof AddPanelEntry);
+    function entries(): list<Item> {
+        return items(panel, item => item instanceof AddPanelEntry);
     }
 
     function entry(text: string): AddPanelEntry {
-        return entries().find(entry => entry.text === text) ?? null;
+        return entries().find(entry => entry.text === text) as AddPanelEntry;
     }
 
     function lit(): string {
@@ -134,7 +108,7 @@ TestCase {
         mouseMove(entry("Sharpen"), 20, 10);
         compare(lit(), "Sharpen");
         keyClick(Qt.Key_Down);
-        compare([lit(), found(plane, item => item instanceof PbTooltipView).length], ["Adjust lighting", 1]);
+        compare([lit(), items(plane, item => item instanceof PbTooltipView).length], ["Adjust lighting", 1]);
         mouseMove(entry("Sharpen"), 21, 10);
         compare(lit(), "Sharpen");
         verify(tip().startsWith("<b>Sharpen</b>"));
@@ -204,7 +178,7 @@ TestCase {
     function test_categories_without_a_model_have_no_entry(): void {
         offer(["Denoise", "Sharpen", "Exposure Adjust", "White Balance Adjust", "Enhance"]);
         compare(entries().map(entry => entry.text), ["Denoise", "Sharpen", "Adjust lighting", "Balance color", "Upscale", "Apply Autopilot"]);
-        compare(found(panel, item => item.text !== undefined && item.visible).map(item => item.text).filter(text => ["Presets", "Enhancements", "Generative", "Not sure where to start?"].includes(text)), ["Enhancements", "Not sure where to start?"]);
+        compare(items(panel, item => item.text !== undefined).map(item => item.text).filter(text => ["Presets", "Enhancements", "Generative", "Not sure where to start?"].includes(text)), ["Enhancements", "Not sure where to start?"]);
         panel.focusRemove();
         compare([panel.open, lit()], [true, ""]);
     }

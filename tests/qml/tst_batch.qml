@@ -16,15 +16,13 @@ WindowParts {
     readonly property var denoise: ({ category: "Denoise", model: "m", enabled: true, params: { p: 0.5 }, subjectSettings: { model: "All" } })
     readonly property var upscale: ({ category: "Enhance", model: "m", enabled: true, params: { mode: "scale", scale: 2 } })
 
-    TPresetsManager {
-        id: store
-        presetsDirectory: parts.backends.appContext.presetsDirectory
-    }
+    readonly property TPresetsManager store: parts.presets
+
     BatchApply {
         id: batch
         controls: parts.controls
         windowState: parts.windowState
-        presets: store
+        presets: parts.presets
         onClearAndAddAutopilotFilters: parts.log.push("autopilot on the current")
         onClearEditsColumn: parts.log.push("clear")
         onReadyToAddFilters: parts.log.push("ready")
@@ -76,7 +74,7 @@ WindowParts {
         controls: parts.controls
         windowState: parts.windowState
         commands: commands
-        presets: store
+        presets: parts.presets
         onAutopilotToSelectedAsked: parts.log.push("autopilot, selected")
         onAutopilotToIndexAsked: index => parts.log.push("autopilot, " + index)
         onCurrentSettingsToSelectedAsked: parts.log.push("settings, selected")

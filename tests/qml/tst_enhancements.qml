@@ -50,12 +50,12 @@ EnhancementParts {
     }
 
     function choose(text: string): void {
-        const find = item => item?.text === text && item.triggered ? item : Array.from(item?.children ?? []).reduce((found, child) => found ?? find(child), null);
         let item = null;
-        tryVerify(() => (item = find(list.Window.window.contentItem)) !== null && item.width > 0, 5000, text);
+        tryVerify(() => (item = items(list.Window.window.contentItem, item => item.text === text && item.triggered && item.width > 0)[0] ?? null) !== null, 5000, text);
         wait(50);
         mouseClick(item);
         settle();
+        wait(150); // the menu leaves, and rows move
     }
 
     function test_click_toggles_panel(): void {

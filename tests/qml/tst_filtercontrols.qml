@@ -20,12 +20,6 @@ WindowParts {
     })
     property var control: null
 
-    PbTooltipPlane {
-        id: plane
-        anchors.fill: parent
-        z: 1
-    }
-
     Component { id: denoise; DenoiseFilterControl { filterName: "Denoise2"; parentCategory: "Denoise" } }
     Component { id: sharpen; SharpenFilterControl { filterName: "Sharpen"; parentCategory: "Sharpen" } }
     Component { id: raw; RAWFilterControl { filterName: "RAW"; parentCategory: "RAW" } }
@@ -33,23 +27,13 @@ WindowParts {
     Component { id: balance; WBFilterControl { filterName: "White Balance Adjust"; parentCategory: "White Balance Adjust" } }
 
     function initTestCase(): void {
-        PebbleStyle.tooltipPlane = plane;
         controls.setModelParamInfo(known(catalogue));
-    }
-
-    function cleanupTestCase(): void {
-        PebbleStyle.tooltipPlane = null;
     }
 
     // A catalogue of these models, without parameters.
     function known(models: var): var {
-        const catalogue = {};
-        for (const category in models) {
-            catalogue[category] = {};
-            for (const name of models[category])
-                catalogue[category][name] = {};
-        }
-        return catalogue;
+        const empty = names => names.reduce((all, name) => Object.assign(all, { [name]: {} }), {});
+        return Object.entries(models).reduce((all, [category, names]) => Object.assign(all, { [category]: empty(names) }), {});
     }
 
     // A control of a filter with these settings, on an image for which Autopilot answered this.
@@ -67,20 +51,20 @@ WindowParts {
         return controls.currentControls[control.filterName];
     }
 
-    function all(item: Item): var {
-        return [item].concat(...Array.from(item.children).filter(child => child.visible).map(all));
+    function all(test: var): list<Item> {
+        return items(control, test);
     }
 
     function slider(text: string): PbLabeledSlider {
-        return all(control).find(item => item instanceof PbLabeledSlider && item.text === text) ?? null;
+        return all(item => item instanceof PbLabeledSlider && item.text === text)[0] ?? null;
     }
 
     function option(text: string): PbGridOption {
-        return all(control).find(item => item instanceof PbGridOption && item.text === text) ?? null;
+        return all(item => item instanceof PbGridOption && item.text === text)[0] ?? null;
     }
 
     function label(text: string): PbLabel {
-        return all(control).find(item => item instanceof PbLabel && item.text === text) ?? null;
+        return all(item => item instanceof PbLabel && item.text === text)[0] ?? null;
     }
 
     function drag(text: string, value: int): void {
@@ -92,16 +76,10 @@ WindowParts {
         mouseRelease(knob, at(value), knob.height / 2);
     }
 
-    function type(text: string, digits: string): void {
+    function enter(text: string, digits: string): void {
         mouseClick(slider(text).textField);
-        for (const digit of digits)
-            keyClick(digit);
+        type(digits);
         keyClick(Qt.Key_Return);
-    }
-
-    function press(item: Item, key: int): void {
-        item.forceActiveFocus(Qt.TabFocusReason);
-        keyClick(key);
     }
 
     // What is chosen, which option and which sliders have Autopilot's mark, and what the sliders show.
@@ -131,14 +109,14 @@ WindowParts {
             "balance, nothing stored": { type: balance, chosen: "", values: [50, 100] },
             "balance, marks always": { type: balance, stored: { temperature: 0.2 }, auto: { enabled: false, temperature: 0.4, strength: 1.4 }, chosen: "", values: [20, 100], marks: [40, 100] }
         };
-        return Object.entries(rows).map(([tag, row]) => Object.assign({ tag }, row));
+        return tagged(rows);
     }
 
     function test_shown(row: var): void {
         make(row);
         const before = filter();
-        const options = all(control).filter(item => item instanceof PbGridOption);
-        const sliders = all(control).filter(item => item instanceof PbLabeledSlider);
+        const options = all(item => item instanceof PbGridOption);
+        const sliders = all(item => item instanceof PbLabeledSlider);
         compare(options.filter(item => item.selected).map(item => item.text), row.chosen ? [row.chosen] : []);
         compare(options.filter(item => item.showAuto).map(item => item.text), row.autoOption ? [row.autoOption] : []);
         compare(sliders.map(item => item.value), row.values);
@@ -154,7 +132,7 @@ WindowParts {
         const rows = {
             "slider dragged": { type: denoise, act: () => drag("Strength", 60), params: { param1_normalv2: 0.6 } },
             "slider by key": { type: denoise, stored: { param1_normalv2: 0.372 }, act: () => press(slider("Strength").slider, Qt.Key_Right), params: { param1_normalv2: 0.38 } },
-            "number typed": { type: denoise, act: () => type("Minor deblur", "45"), params: { param2_normalv2: 0.45 } },
+            "number typed": { type: denoise, act: () => enter("Minor deblur", "45"), params: { param2_normalv2: 0.45 } },
             "label of a slider": { type: denoise, stored: { param1_normalv2: 0.6 }, act: () => mouseDoubleClickSequence(slider("Strength").label), params: { param1_normalv2: 0.01 } },
             "slider back to Autopilot": { type: denoise, auto: { enabled: true, model: "Low Light Beta", param1_normalv2: 0.4 }, stored: { param1_normalv2: 0.6 }, act: () => press(slider("Strength").slider, Qt.Key_Delete), params: { param1_normalv2: 0.4 } },
             "within the rounding": { type: denoise, stored: { param1_normalv2: 0.37 }, act: () => controls.setParam("Denoise2", "param1_normalv2", 0.372), params: { param1_normalv2: 0.372 } },
@@ -170,12 +148,12 @@ WindowParts {
             "denoise of a kind": { type: sharpen, stored: kinds, act: () => drag("Minor denoise", 40), params: { param1: 0.4, std_noise: 0.4 } },
             "model of a RAW file": { type: raw, stored: { model: "RAW Native" }, act: () => mouseClick(option("RAW Strong")), model: "RAW Standard" },
             "the one model of a RAW file stays": { type: raw, stored: { model: "Linear RAW" }, act: () => mouseDoubleClickSequence(label("AI model")), params: {} },
-            "exposure at its least": { type: exposure, act: () => type("Strength", "-25"), params: { param1: -0.25 } },
+            "exposure at its least": { type: exposure, act: () => enter("Strength", "-25"), params: { param1: -0.25 } },
             "exposure between percents, below zero": { type: exposure, act: () => controls.setParam("Exposure Adjust", "param1", -0.104), params: { param1: -0.1 } },
             "temperature": { type: balance, act: () => drag("Temperature", 80), params: { temperature: 0.8 } },
             "filter that was removed": { type: balance, act: () => { controls.removeFilterControl("White Balance Adjust"); drag("Opacity", 40); }, gone: true }
         };
-        return Object.entries(rows).map(([tag, row]) => Object.assign({ tag }, row));
+        return tagged(rows);
     }
 
     function test_written(row: var): void {
@@ -196,7 +174,7 @@ WindowParts {
         drag("Strength", 60);
         mouseClick(option("Strong"));
         compare(slider("Strength").value, 1);
-        type("Strength", "20");
+        enter("Strength", "20");
         mouseClick(option("Normal"));
         compare(slider("Strength").value, 60);
         mouseClick(option("Strong"));
@@ -217,7 +195,7 @@ WindowParts {
         ignoreWarning("Could not map AP suggested model: 'Sharpen Gone'");
         make({ type: sharpen, auto: { enabled: true, model: "Sharpen Gone" } });
         drag("Strength", 40);
-        verify(all(control).every(item => !(item instanceof PbGridOption) || !item.showAuto));
+        verify(all(item => item instanceof PbGridOption && item.showAuto).length === 0);
     }
 
     function test_tooltips_are_beside_the_panel_data(): var {
@@ -241,7 +219,7 @@ WindowParts {
 
     function test_note_is_dismissed_until_the_panel_is_made_anew(): void {
         make({ type: raw, stored: { model: "RAW Native" } });
-        const dismiss = () => all(control).find(item => item instanceof PbButton) ?? null;
+        const dismiss = () => all(item => item instanceof PbButton)[0] ?? null;
         const height = control.implicitHeight;
         press(dismiss(), Qt.Key_Space);
         compare(dismiss(), null);

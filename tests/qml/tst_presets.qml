@@ -15,14 +15,8 @@ WindowParts {
 
     property bool isMac: false
 
-    TPresetsManager {
-        id: store
-        presetsDirectory: parts.backends.appContext.presetsDirectory
-    }
-    FilterVocabulary {
-        id: words
-        controls: parts.controls
-    }
+    readonly property TPresetsManager store: parts.presets
+
     DialogQueue {
         id: dialogQueue
     }
@@ -30,8 +24,8 @@ WindowParts {
         id: dialogs
         anchors.fill: parent
         controls: parts.controls
-        presets: store
-        vocabulary: words
+        presets: parts.presets
+        vocabulary: parts.panel.logic.vocabulary
         helpers: parts.helpers
         queue: dialogQueue
         onSaved: preset => parts.log.push("saved " + preset.name)
@@ -42,10 +36,6 @@ WindowParts {
         validator: FileNameValidator {
             isMac: parts.isMac
         }
-    }
-    Component {
-        id: nameRules
-        PresetNameRules {}
     }
 
     function filter(category: string, more = {}): var {
@@ -69,11 +59,6 @@ WindowParts {
 
     function part(name: string): Item {
         return findChild(dialog("presetEditor").contentItem, name);
-    }
-
-    function press(dialog: PbDialog, text: string): void {
-        const find = item => item.text === text && item.click ? item : Array.from(item.children).map(find).find(found => found);
-        mouseClick(find(dialog.footer));
     }
 
     function names(): var {
@@ -142,7 +127,7 @@ WindowParts {
         Reduction.reduced(row.preset); // reads anything
     }
 
-    // Its name
+    // Its name; which ones are free is shown by the dialogs
 
     function test_characters_data(): var {
         const rows = ["\\", "/", ":", "<", ">", "?", "*", "\"", "|", ".", "'", "&", "%", "ü", " "];
@@ -157,21 +142,6 @@ WindowParts {
         }
     }
 
-    function test_names_data(): var {
-        return [
-            { tag: "new", name: "c", free: true },
-            { tag: "taken", name: "a", free: false },
-            { tag: "taken in another case", name: "B", free: false },
-            { tag: "its own", own: "a", name: "a", free: true },
-            { tag: "its own in another case", own: "a", name: "A", free: false }
-        ];
-    }
-
-    function test_names(row): void {
-        const rules = createTemporaryObject(nameRules, this, { taken: ["a", "b"], ownName: row.own ?? "" });
-        compare(rules.isFree(row.name), row.free);
-    }
-
     // The dialogs
 
     function test_keys_data(): var {
@@ -182,7 +152,6 @@ WindowParts {
             { tag: "no name", types: "", key: Qt.Key_Return, stays: true, stored: ["other"] },
             { tag: "no slash gets in", types: "M/e", key: Qt.Key_Return, stored: ["Me", "other"] },
             { tag: "taken", types: "OTHER", key: Qt.Key_Return, stays: true, error: "A preset with that name already exists.", stored: ["other"] },
-            { tag: "taken, Enter", types: "other", key: Qt.Key_Enter, stays: true, error: "A preset with that name already exists.", stored: ["other"] },
             { tag: "rename, same name", own: "mine", types: "mine", key: Qt.Key_Return, stored: ["mine", "other"] },
             { tag: "rename by case alone", own: "mine", types: "Mine", key: Qt.Key_Return, stays: true, error: "A preset with that name already exists.", stored: ["mine", "other"] },
             { tag: "rename", own: "mine", types: "new", key: Qt.Key_Return, stored: ["new", "other"] }
@@ -201,8 +170,7 @@ WindowParts {
         compare(editor.title, row.own ? "Rename" : "New preset");
         tryCompare(part("presetName"), "activeFocus", true, 60000);
         compare(part("presetName").text, row.own ?? "");
-        for (const character of row.types)
-            keyClick(character);
+        type(row.types);
         keyClick(row.key);
         if (row.stays)
             wait(50);
@@ -225,7 +193,7 @@ WindowParts {
         dialogs.edit(preset());
         const editor = opened("presetEditor");
         keyClick("A");
-        press(editor, "Save");
+        mouseClick(named(editor.footer, "Save"));
         verify(part("presetError").text.includes("/no/such/folder"), part("presetError").text);
         verify(editor.opened);
         compare([log, names()], [[], []], "nothing pretends to be saved");
@@ -256,7 +224,7 @@ WindowParts {
         compare(names(), ["a&b"], "Return is no assent");
         dialogs.askToDelete("a&b");
         question = opened("deletePresetWarning");
-        press(question, "Delete");
+        mouseClick(named(question.footer, "Delete"));
         tryVerify(() => !question.visible, 60000);
         compare([names(), store.presets.length], [[], 0]);
     }

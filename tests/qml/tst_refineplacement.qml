@@ -72,14 +72,6 @@ EnhancementParts {
         compare(panels.placement.docked, true, "not far enough");
     }
 
-    function test_menu_undocks(): void {
-        actions.showRefinePanel("Denoise");
-        panels.placement.undock();
-        compare([panels.placement.docked, panels.placement.canReattach], [false, false]);
-        panels.placement.dock();
-        compare([panels.placement.docked, settings.dragState], [true, Qt.point(0, 0)]);
-    }
-
     function test_stored_places_data(): var {
         return [
             { tag: "kept from an earlier run", at: [100, 50], x: 100, docked: false },
@@ -102,7 +94,6 @@ EnhancementParts {
         const before = Qt.point(settings.dragState.x, settings.dragState.y); // and no reference to what changes
         window.x += 30;
         window.y += 20;
-
         tryVerify(() => settings.dragState.x === before.x + 30 && settings.dragState.y === before.y + 20);
         const kept = String(settings.dragState);
         parts.width -= 20;

@@ -61,21 +61,4 @@ TestCase {
         compare(Limits.withWidth(size, picture, size.width), Object.assign({}, size, { mode: "width" }));
         compare(Limits.withHeight(size, picture, size.height), Object.assign({}, size, { mode: "height" }));
     }
-
-    function test_units_data(): var {
-        const { Pixels, Inches, Centimeters } = Limits;
-        return [
-            { tag: "to inches", from: Pixels, to: Inches, resolution: 254, shown: 10 },
-            { tag: "inches to centimetres", from: Inches, to: Centimeters, resolution: 100, shown: 25.4 },
-            { tag: "centimetres to inches", from: Centimeters, to: Inches, resolution: 645.16, shown: 2540 / 645.16 },
-            { tag: "to pixels", from: Centimeters, to: Pixels, resolution: 254, shown: 2540 }
-        ];
-    }
-
-    function test_units(row): void {
-        const size = Limits.withUnit({ resolution: 254, resolutionUnit: row.from }, row.to);
-        fuzzyCompare(size.resolution, row.resolution, 1e-9);
-        fuzzyCompare(Limits.shown(2540, size), row.shown, 1e-9);
-        fuzzyCompare(Limits.pixelsOf(row.shown, size), 2540, 1e-9);
-    }
 }
