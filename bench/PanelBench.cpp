@@ -38,6 +38,7 @@ constexpr double OpenPanelMs = 16.7; // one frame
 constexpr double MoveMs = 1;
 constexpr int Rounds = 7;
 constexpr int Moves = 200;
+constexpr int PatienceMs = 20000;
 constexpr int QuietMs = 250; // longer than any animation of the column
 
 const QStringList Filters{u"Denoise"_s,  u"Sharpen"_s,  u"Exposure Adjust"_s,  u"White Balance Adjust"_s,
@@ -93,7 +94,7 @@ public:
 
 private:
     static bool wait(const std::function<bool()> &condition) {
-        for (const QDeadlineTimer deadline(60000); !condition() && !deadline.hasExpired();)
+        for (const QDeadlineTimer deadline(PatienceMs); !condition() && !deadline.hasExpired();)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
         return condition();
     }
@@ -133,7 +134,8 @@ private:
         QMetaObject::invokeMethod(m_stack, "showStack", Q_ARG(QStringList, filters));
     }
     void openPanel(const QString &filter) const {
-        QMetaObject::invokeMethod(part(m_logic, "actions"), "showRefinePanel", Q_ARG(QString, filter));
+        QMetaObject::invokeMethod(part(m_logic, "actions"), "showRefinePanel", Q_ARG(QString, filter),
+                                  Q_ARG(QVariant, false));
     }
     void closePanel() const { QMetaObject::invokeMethod(m_stack, "closeRefineMode"); }
 
@@ -147,8 +149,7 @@ int Panel::rebuilding() {
     for (const QString &filter : Filters) {
         QString category = filter;
         category.remove(u'2');
-        QMetaObject::invokeMethod(m_stack, "addNewFilterToHistory", Q_ARG(QString, category),
-                                  Q_ARG(QString, filter), Q_ARG(bool, false), Q_ARG(bool, false));
+        QMetaObject::invokeMethod(m_logic, "addFilter", Q_ARG(QString, category), Q_ARG(bool, false));
     }
     settle();
     if (ofDocument(m_window, "EnhancementsDelegate").size() != Filters.size())
@@ -220,7 +221,7 @@ int Panel::moves() {
 
 int measurePanel(int argc, char **argv) {
     QApplication application(argc, argv);
-    QLoggingCategory::setFilterRules(u"default.info=false\ndefault.debug=false"_s);
+    QLoggingCategory::setFilterRules(u"*.info=false\n*.debug=false"_s);
     Identity::setOnApplication();
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
     setInterfaceFont();
