@@ -18,6 +18,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QStandardPaths>
+#include <QThread>
 #include <QtQml/QQmlExtensionPlugin>
 
 #include <algorithm>
@@ -63,12 +64,15 @@ QObject *part(const QObject *object, const char *name) {
     return object ? object->property(name).value<QObject *>() : nullptr;
 }
 
-/// The objects of a document below `root`.
-QList<QObject *> ofDocument(const QObject *root, const char *name) {
-    QList<QObject *> found = root->findChildren<QObject *>();
+/// The items of a document below `root`.
+QList<QQuickItem *> ofDocument(const QQuickItem *root, const char *name) {
     const QByteArray type = QByteArray(name) + "_QMLTYPE_";
-    found.removeIf(
-        [&type](QObject *object) { return !QByteArray(object->metaObject()->className()).startsWith(type); });
+    QList<QQuickItem *> found;
+    for (QQuickItem *item : root->childItems()) {
+        if (QByteArray(item->metaObject()->className()).startsWith(type))
+            found.append(item);
+        found.append(ofDocument(item, name));
+    }
     return found;
 }
 
@@ -76,10 +80,16 @@ class Panel {
 public:
     explicit Panel(QQuickWindow *window)
         : m_window(window)
-        , m_logic(part(ofDocument(window, "RightPanel").value(0), "logic"))
+        , m_logic(part(ofDocument(window->contentItem(), "RightPanel").value(0), "logic"))
         , m_stack(part(m_logic, "stack")) {
+        // This thread draws the frame, too, which does not count, or waits while another one takes it over.
         QObject::connect(
-            window, &QQuickWindow::afterSynchronizing, window, [this] { m_frame = true; },
+            window, &QQuickWindow::afterSynchronizing, window,
+            [this] {
+                if (QThread::currentThread() == m_window->thread())
+                    m_atFrame = computed();
+                m_frame = true;
+            },
             Qt::DirectConnection);
     }
 
@@ -114,8 +124,11 @@ private:
         settle();
         const double before = computed();
         m_frame = false;
+        m_atFrame = 0;
         act();
-        return wait([this] { return m_frame.load(); }) ? computed() - before : -1;
+        if (!wait([this] { return m_frame.load(); }))
+            return -1;
+        return (m_atFrame > 0 ? m_atFrame.load() : computed()) - before;
     }
 
     /// An item of the same engine that stands beside the window's own.
@@ -143,6 +156,7 @@ private:
     QObject *m_logic;
     QObject *m_stack;
     std::atomic<bool> m_frame = false;
+    std::atomic<double> m_atFrame = 0; // what was computed() then
 };
 
 int Panel::rebuilding() {
@@ -152,7 +166,7 @@ int Panel::rebuilding() {
         QMetaObject::invokeMethod(m_logic, "addFilter", Q_ARG(QString, category), Q_ARG(bool, false));
     }
     settle();
-    if (ofDocument(m_window, "EnhancementsDelegate").size() != Filters.size())
+    if (ofDocument(m_window->contentItem(), "EnhancementsDelegate").size() != Filters.size())
         return 2;
     const auto list =
         reference("ListView { width: 272; height: 480; model: 0; delegate: Rectangle { width: 272; "
@@ -192,7 +206,7 @@ int Panel::moves() {
     toFrame([this] { openPanel(Filters[0]); });
     settle();
     QObject *slider = nullptr;
-    for (QObject *one : ofDocument(m_window, "FilterSlider")) {
+    for (QQuickItem *one : ofDocument(m_window->contentItem(), "FilterSlider")) {
         if (!slider && part(one, "control")->property("filterName") == Filters[0])
             slider = one;
     }
