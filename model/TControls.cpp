@@ -23,6 +23,18 @@ QVariantMap TControls::currentControls() const {
     return currentSettings().toMap();
 }
 
+QVariantMap TControls::currentFilter(const QString &filterName) const {
+    const auto record = m_imageSettings.constFind(currentImage());
+    if (record == m_imageSettings.cend())
+        return {};
+    const auto filter = record->filterControls.constFind(filterName);
+    return filter == record->filterControls.cend() ? QVariantMap() : filter->toMap();
+}
+
+QVariantMap TControls::advisedFilter(const QString &category) const {
+    return currentSettings().autoPilotSettings.value(category).toMap();
+}
+
 QVariantMap TControls::currentImageData() const {
     return m_imageData.value(currentImage());
 }
@@ -41,6 +53,7 @@ bool TControls::isRaw() const {
 }
 
 void TControls::emitCurrentImageSignals() {
+    Q_EMIT adviceChanged();
     Q_EMIT currentControlsChanged();
     Q_EMIT subjectSettingsChanged(subjectSettings());
     Q_EMIT currentImageDataChanged();

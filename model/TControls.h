@@ -50,6 +50,8 @@ class TControls : public QObject {
     Q_PROPERTY(int ENHANCE_PIXEL_MAX READ enhMaxPx CONSTANT)
     Q_PROPERTY(QList<QVariantMap> autoPilotSuggestionOrder READ autoPilotSuggestionOrder WRITE
                    setAutoPilotSuggestionOrder NOTIFY autoPilotSuggestionOrderChanged)
+    Q_PROPERTY(int currentChanges READ currentChanges NOTIFY currentControlsChanged)
+    Q_PROPERTY(int advicesHeard READ advicesHeard NOTIFY adviceChanged)
     Q_PROPERTY(bool canUndo READ canUndo NOTIFY editHistoryChanged)
     Q_PROPERTY(bool canRedo READ canRedo NOTIFY editHistoryChanged)
 
@@ -60,6 +62,13 @@ public:
     int currentIndex() const { return int(m_currentIndex); }
     QString currentImage() const { return pathAt(m_currentIndex); }
     QVariantMap currentControls() const;
+    /// One filter's entry of currentControls, and Autopilot's of a category; empty when there is none. A map
+    /// of everything is dear to hand to a document, and a slider asks for one with every move. A binding on
+    /// `currentChanges`, or on `advicesHeard`, is told when to ask again.
+    Q_INVOKABLE QVariantMap currentFilter(const QString &filterName) const;
+    Q_INVOKABLE QVariantMap advisedFilter(const QString &category) const;
+    int currentChanges() const { return currentSettings().changesCount; }
+    int advicesHeard() const { return m_advicesHeard; }
     QVariantMap currentImageData() const;
     QString currentCategory() const { return m_currentCategory; }
     QString currentModel() const;
@@ -253,6 +262,7 @@ Q_SIGNALS:
     void autoPilotApplied(const QString &path);
     void autoPilotSuggestionOrderChanged();
     void editHistoryChanged();
+    void adviceChanged(); ///< another image is current, or it has been analysed
 
 private:
     QString pathAt(qint64 index) const;
@@ -292,6 +302,7 @@ private:
     QHash<QString, EditHistory> m_editHistories; ///< by path; of images that are open
     QStringList m_viewOrder;                     ///< the most recently viewed last
     qint64 m_currentIndex = -1;
+    int m_advicesHeard = 0;
     QString m_currentCategory;
     QVariantList m_currentInpaintStrokes;
 };

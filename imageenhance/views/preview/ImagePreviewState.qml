@@ -21,7 +21,7 @@ QtObject {
     signal requestProc(rect roi)
 
     readonly property var result: source.result // result map
-    readonly property var currentControls: windowState.controls.currentControls // controls map
+    readonly property var currentControls: windowState.currentControls // controls map
     readonly property string currentImage: windowState.controls.currentImage
     readonly property real pixelRatio: windowState.helpers.osUtils.devicePixelRatio()
     readonly property bool cropping: windowState.isCropping

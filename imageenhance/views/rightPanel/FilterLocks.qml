@@ -9,12 +9,11 @@ QtObject {
     required property TControls controls
 
     function isLocked(filterName: string): bool {
-        return Boolean(controls.currentControls[filterName]?.params?.locked);
+        return Boolean(controls.currentFilter(filterName).params?.locked);
     }
 
     function lockFilters(stack: list<string>, inpaint: string): void {
-        const current = controls.currentControls;
-        for (const name of Stack.toLock(stack, inpaint, name => Boolean(current[name]?.params?.locked)))
+        for (const name of Stack.toLock(stack, inpaint, isLocked))
             controls.setParam(name, "locked", true);
     }
 

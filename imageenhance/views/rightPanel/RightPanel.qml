@@ -73,8 +73,8 @@ Rectangle {
 
     // Of the picture before it is enlarged.
     function updateFileSizeEstimate(fileSize: real): void {
-        const enhance = controls.currentControls[controls.categories.enhance];
-        const scale = enhance?.enabled ? enhance.params?.scale ?? 1 : 1;
+        const enhance = controls.currentFilter(controls.categories.enhance);
+        const scale = enhance.enabled ? enhance.params.scale ?? 1 : 1;
         _private.fileSize = fileSize * scale * scale;
         _private.fileSizeError = "";
     }

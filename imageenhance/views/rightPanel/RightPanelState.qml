@@ -56,8 +56,8 @@ QtObject {
 
     function duplicateFilter(index: int): void {
         const source = _private.stack[index];
-        const controlsOf = _top.controls.currentControls[source];
-        if (!controlsOf || source === _top.controls.categories.enhance || controlsOf.category === _top.controls.categories.raw)
+        const controlsOf = _top.controls.currentFilter(source ?? "");
+        if (!controlsOf.category || source === _top.controls.categories.enhance || controlsOf.category === _top.controls.categories.raw)
             return;
         const name = getAdjustedFilterName(controlsOf.category);
         addNewFilterToHistory(controlsOf.category, name, false, true);
@@ -204,8 +204,8 @@ QtObject {
 
         function initialize(filterName: string, category: string): void {
             _top.controls.initializeFilter(filterName, category);
-            const advised = _top.controls.currentControls.autoPilotSettings?.[category];
-            if (advised)
+            const advised = _top.controls.advisedFilter(category);
+            if (advised.category !== undefined || advised.params !== undefined)
                 _top.controls.setParams(filterName, advised);
             if (_top.vocabulary.isSelectionFilter(category))
                 _top.controls.initializeSubject(filterName);

@@ -26,7 +26,7 @@ QtObject {
     }
 
     readonly property bool _hoversSubject: _private.hovered === EditMode.Subject
-    readonly property var _filter: controls.currentControls[controls.currentCategory] ?? ({})
+    readonly property var _filter: controls.currentChanges >= 0 ? controls.currentFilter(controls.currentCategory) : {}
     readonly property var _subject: _filter.subjectSettings ?? ({})
 
     function _strokes(): var {
@@ -44,9 +44,9 @@ QtObject {
         _private.hovered = showPreview ? mode : EditMode.None;
         if (mode !== EditMode.Subject || !showPreview)
             return;
-        const filter = controls.currentControls[currentFilter];
-        _private.strokes = model !== "" ? [] : filter?.params?.strokes ?? filter?.subjectSettings?.strokes ?? [];
-        _private.model = model || (filter?.subjectSettings?.model ?? "");
+        const filter = controls.currentFilter(currentFilter);
+        _private.strokes = model !== "" ? [] : filter.params?.strokes ?? filter.subjectSettings?.strokes ?? [];
+        _private.model = model || (filter.subjectSettings?.model ?? "");
         if (_private.model !== "" && _private.model !== "All" && !engine.maskTextures.maskHashes?.[_private.model])
             engine.editSubjectMask(engine.inputImage, { "model": _private.model });
     }

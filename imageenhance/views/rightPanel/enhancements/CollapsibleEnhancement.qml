@@ -12,14 +12,11 @@ FocusScope {
     required property RefinePlacement placement
     required property string title
     required property url iconSource
-    required property string filterName // with its number
-    required property string parentCategory
     required property bool open
     required property bool hideControls
     required property bool hideSelection
     required property Component content
 
-    readonly property bool modified: open && _private.isModified()
     readonly property bool nearLeftEdge: placement.nearLeftEdge
     readonly property bool canReattach: placement.canReattach
     readonly property bool maskingView: actions.maskingView
@@ -95,15 +92,6 @@ FocusScope {
         function onPanelFocusWanted(): void {
             const first = _header.nextItemInFocusChain(true);
             first?.forceActiveFocus(Qt.TabFocusReason);
-        }
-    }
-
-    QtObject {
-        id: _private
-
-        function isModified(): bool {
-            const controls = _top.actions.panelState.controls;
-            return Boolean(controls.currentControls) && controls.isModifiedFromAutopilot(_top.filterName, _top.parentCategory);
         }
     }
 }

@@ -46,7 +46,7 @@ QtObject {
         property string before: ""
 
         function paramsOf(name: string): string {
-            return name === "" ? "" : JSON.stringify(_top.panelState.controls.currentControls[name] ?? {});
+            return name === "" ? "" : JSON.stringify(_top.panelState.controls.currentFilter(name));
         }
     }
 }

@@ -20,7 +20,7 @@ QtObject {
     signal panelMenuWanted(Item below)
 
     function isEnabled(filterName: string): bool {
-        return Boolean(panelState.controls.currentControls[filterName]?.enabled);
+        return Boolean(panelState.controls.currentFilter(filterName).enabled);
     }
 
     // A filter that goes out of use takes its panel with it.
@@ -67,7 +67,7 @@ QtObject {
 
     function resetToAutopilotSettings(filterName: string, category: string): void {
         const controls = panelState.controls;
-        controls.setParams(filterName, controls.currentControls.autoPilotSettings?.[category] ?? {});
+        controls.setParams(filterName, controls.advisedFilter(category));
         if (panelState.vocabulary.isSelectionFilter(category))
             controls.initializeSubject(filterName);
     }

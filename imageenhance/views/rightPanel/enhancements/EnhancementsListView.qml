@@ -17,7 +17,6 @@ ListView {
     readonly property int rowHeight: 48
     readonly property int pitch: rowHeight + PebbleStyle.size.border
 
-    readonly property var _filters: panelState.controls.currentControls
     readonly property EnhancementsDelegate _row: currentItem as EnhancementsDelegate
 
     function _openMenu(row: EnhancementsDelegate, atPointer: bool): void {
@@ -67,7 +66,7 @@ ListView {
         panelState: _top.panelState
         actions: _top.actions
         drag: _drag
-        filter: _top._filters[adjustedFilterName] ?? {}
+        filter: _top.panelState.controls.currentChanges >= 0 ? _top.panelState.controls.currentFilter(adjustedFilterName) : {}
         collapsed: _top.collapsed
         starting: _spinner.running
         focused: ListView.isCurrentItem && _top.activeFocus && !_drag.active

@@ -23,11 +23,11 @@ Item {
 
     readonly property bool open: panelState.refiningFilter === filterName
     readonly property bool nearLeftEdge: placement.nearLeftEdge
-    readonly property bool locked: Boolean(_filter?.params?.locked)
+    readonly property bool locked: Boolean(_filter.params?.locked)
     readonly property CollapsibleEnhancement panel: _panel.item as CollapsibleEnhancement
 
     // Hidden panels don't follow what is set.
-    readonly property var _filter: open ? panelState.controls.currentControls[filterName] : undefined
+    readonly property var _filter: open && panelState.controls.currentChanges >= 0 ? panelState.controls.currentFilter(filterName) : {}
     readonly property real _wantedHeight: panel?.implicitHeight ?? 0
 
     function setRefineView(maskingView: bool): void {
@@ -61,8 +61,6 @@ Item {
             placement: _top.placement
             title: _top.title
             iconSource: _top.iconSource
-            filterName: _top.filterName
-            parentCategory: _top.parentCategory
             open: _top.open
             hideControls: _top.hideControls
             hideSelection: _top.hideSelection

@@ -9,17 +9,14 @@ QtObject {
     required property string filterName
     required property string parentCategory
 
-    readonly property bool exists: _entries.filter !== undefined
-    readonly property string model: _entries.filter?.model ?? ""
-    readonly property var params: _entries.filter?.params ?? {}
+    readonly property bool exists: _filter.category !== undefined
+    readonly property string model: _filter.model ?? ""
+    readonly property var params: _filter.params ?? {}
 
-    readonly property bool autoEnabled: _entries.auto?.enabled ?? false
-    readonly property string autoModel: _entries.auto?.model ?? ""
-    readonly property var autoParams: _entries.auto?.params ?? {}
+    readonly property bool autoEnabled: _advised.enabled ?? false
+    readonly property string autoModel: _advised.model ?? ""
+    readonly property var autoParams: _advised.params ?? {}
 
-    // The whole map is built at each read; this is the only one.
-    readonly property var _entries: {
-        const all = controls.currentControls;
-        return { filter: all[filterName], auto: all.autoPilotSettings?.[parentCategory] };
-    }
+    readonly property var _filter: controls.currentChanges >= 0 ? controls.currentFilter(filterName) : {}
+    readonly property var _advised: controls.advicesHeard >= 0 ? controls.advisedFilter(parentCategory) : {}
 }

@@ -51,10 +51,11 @@ ColumnLayout {
         readonly property bool denoise: leftOut(_top.controls.categories.denoise) || leftOut(_top.controls.categories.raw)
 
         function leftOut(category: string): bool {
-            const all = _top.resolution.allControls;
-            if (!all.autoPilotSettings?.[category]?.params?.deselectedByUpscaling)
+            const controls = _top.controls;
+            if (controls.advicesHeard < 0 || !controls.advisedFilter(category).params?.deselectedByUpscaling)
                 return false;
-            return !Object.values(all).some(filter => filter?.category === category && filter.enabled);
+            const inUse = filter => filter.category === category && filter.enabled;
+            return controls.currentChanges >= 0 && !controls.filterOrder.some(name => inUse(controls.currentFilter(name)));
         }
 
         function open(): void {

@@ -20,12 +20,11 @@ QtObject {
     // True while `originalSize` may still be that of the image before: nothing is limited or written meanwhile.
     property bool loading: false
 
-    // The filter as the model has it, read once for all that show it.
-    readonly property var allControls: controls.currentControls
-    readonly property var filter: allControls[filterName]
-    readonly property var params: filter?.params ?? ({})
-    readonly property string model: filter?.model || "Standard"
-    readonly property var autoFilter: allControls.autoPilotSettings?.[parentCategory] ?? ({}) // Autopilot's
+    // The filter as the model has it, read once for all that show it; empty where it has gone.
+    readonly property var filter: controls.currentChanges >= 0 ? controls.currentFilter(filterName) : {}
+    readonly property var params: filter.params ?? ({})
+    readonly property string model: filter.model || "Standard"
+    readonly property var autoFilter: controls.advicesHeard >= 0 ? controls.advisedFilter(parentCategory) : {} // Autopilot's
 
     readonly property real scale: _private.current.scale
     readonly property real width: _private.current.width // output pixels
@@ -92,7 +91,7 @@ QtObject {
         if (!Limits.differs(params, next))
             return;
         // A write to a filter that has just been removed would bring it back without its category.
-        if (!controls.currentControls[filterName])
+        if (controls.currentFilter(filterName).category === undefined)
             return;
         // A write that follows from another change is no step of the user's own.
         if (!manual)
@@ -135,7 +134,7 @@ QtObject {
 
         // A function and no property: asked by handlers, which may come before a binding has followed.
         function isReady(): bool {
-            return _top.filter !== undefined && !_top.loading && _top.imageSize.width > 0 && _top.imageSize.height > 0;
+            return _top.filter.category !== undefined && !_top.loading && _top.imageSize.width > 0 && _top.imageSize.height > 0;
         }
 
         function take(size: var): void {

@@ -57,7 +57,7 @@ QtObject {
 
     // `strengths` are the present values of the sliders, which the new model takes over.
     function choose(model: string, strengths: var): void {
-        if (!resolution.filter || model === resolution.model)
+        if (resolution.filter.category === undefined || model === resolution.model)
             return;
         controls.setModel(filterName, model);
         controls.setParams(filterName, strengths);
