@@ -142,6 +142,9 @@ QtObject {
                 return "[PROC] Ignoring proc call while running AP";
             if (_top.windowState.isExporting)
                 return "[PROC] Ignoring proc call while exporting";
+            // The release asks for a run of its own.
+            if (queuedProc)
+                return "[PROC] Ignoring proc call while a slider is held";
             const current = _top.windowState.controls.currentControls;
             if (skipsOnce(current))
                 return "Skipping proc due to update flag on Enhance";

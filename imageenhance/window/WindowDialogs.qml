@@ -115,7 +115,7 @@ Item {
     Toaster {
         id: _toaster
         anchors { right: parent.right; top: parent.top }
-        anchors.rightMargin: (_top.windowState.imageOpen ? _top.panel.width : 0) + PebbleStyle.size.spacingLarge
+        anchors.rightMargin: (_top.windowState.imageOpen ? _top.panel.width + _top.panel.sidebarOffset : 0) + PebbleStyle.size.spacingLarge
         anchors.topMargin: _top.workAreaTop + PebbleStyle.size.spacingLarge
     }
     Loader {

@@ -104,6 +104,7 @@ TEST_F(WindowPanel, EditsArePutTogetherKeptCarriedOverAndTakenBack) {
 
     ASSERT_TRUE(keys({}));
     ASSERT_TRUE(click(row(0)));
+    ASSERT_TRUE(waitForLog("previous proc already covering")) << "less of the picture is seen, and no run";
     ASSERT_TRUE(drag(strength(100), strength(163)));
     ASSERT_TRUE(waitForRuns(2)) << "a drag is one run, at its end";
     ASSERT_TRUE(click(row(0)));

@@ -111,6 +111,7 @@ WindowParts {
             change();
             wait(0);
         }
+        scheduler.procCurrentRoi(); // the view has come to rest meanwhile
         compare(parts.runs().length, 0);
         verify(scheduler.queuedProc);
         mouseRelease(parts, 880, 680);
