@@ -53,7 +53,6 @@ bool TControls::isRaw() const {
 }
 
 void TControls::emitCurrentImageSignals() {
-    Q_EMIT adviceChanged();
     Q_EMIT currentControlsChanged();
     Q_EMIT subjectSettingsChanged(subjectSettings());
     Q_EMIT currentImageDataChanged();

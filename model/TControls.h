@@ -51,7 +51,7 @@ class TControls : public QObject {
     Q_PROPERTY(QList<QVariantMap> autoPilotSuggestionOrder READ autoPilotSuggestionOrder WRITE
                    setAutoPilotSuggestionOrder NOTIFY autoPilotSuggestionOrderChanged)
     Q_PROPERTY(int currentChanges READ currentChanges NOTIFY currentControlsChanged)
-    Q_PROPERTY(int advicesHeard READ advicesHeard NOTIFY adviceChanged)
+    Q_PROPERTY(int advicesHeard READ advicesHeard NOTIFY autoPilotCalculated)
     Q_PROPERTY(bool canUndo READ canUndo NOTIFY editHistoryChanged)
     Q_PROPERTY(bool canRedo READ canRedo NOTIFY editHistoryChanged)
 
@@ -64,7 +64,7 @@ public:
     QVariantMap currentControls() const;
     /// One filter's entry of currentControls, and Autopilot's of a category; empty when there is none. A map
     /// of everything is dear to hand to a document, and a slider asks for one with every move. A binding on
-    /// `currentChanges`, or on `advicesHeard`, is told when to ask again.
+    /// `currentChanges`, or on `currentImage` and `advicesHeard`, is told when to ask again.
     Q_INVOKABLE QVariantMap currentFilter(const QString &filterName) const;
     Q_INVOKABLE QVariantMap advisedFilter(const QString &category) const;
     int currentChanges() const { return currentSettings().changesCount; }
@@ -262,7 +262,6 @@ Q_SIGNALS:
     void autoPilotApplied(const QString &path);
     void autoPilotSuggestionOrderChanged();
     void editHistoryChanged();
-    void adviceChanged(); ///< another image is current, or it has been analysed
 
 private:
     QString pathAt(qint64 index) const;

@@ -60,7 +60,6 @@ void TControls::applyRecommendedFilters() {
 void TControls::setAutopilotSettings(const QVariantMap &settings) {
     currentSettings().setAutopilotSettings(settings);
     ++m_advicesHeard;
-    Q_EMIT adviceChanged();
     propagateControlChanges();
     Q_EMIT autoPilotCalculated(currentImage());
 }

@@ -127,8 +127,8 @@ Item {
         id: _globalFocus
         focus: true
         Keys.onPressed: event => event.accepted = _top.keyState.pressed(event.key, event.modifiers, event.isAutoRepeat)
-        Keys.onUpPressed: _panel.focusFirstItem()
-        Keys.onDownPressed: _panel.focusFirstItem()
+        Keys.onUpPressed: event => _panel.arrowPressed(event)
+        Keys.onDownPressed: event => _panel.arrowPressed(event)
         Keys.onReleased: event => event.accepted = _top.keyState.released(event.key, event.modifiers, event.isAutoRepeat)
     }
     AppShortcuts {

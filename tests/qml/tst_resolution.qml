@@ -185,7 +185,7 @@ WindowParts {
     }
 
     function test_model_takes_the_strengths_along(): void {
-        const slider = param => item(control, "param", param);
+        const slider = param => item(control, "key", param);
         compare([slider("param1").value, slider("param2").value, slider("param3").value], [37, 20, 50]);
         parts.controls.setParam("Enhance", "param1", 0.372);
         compare([slider("param1").value, params().param1], [37, 0.372]);

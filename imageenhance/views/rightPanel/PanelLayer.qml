@@ -21,6 +21,14 @@ Item {
 
     readonly property WindowState _window: logic.windowState
 
+    // From the add panel to what it has opened, or back to the window.
+    function passKeys(): void {
+        if (logic.stack.expandedFilter)
+            logic.actions.panelKeysWanted();
+        else
+            focusWanted();
+    }
+
     RefineLayer {
         id: _refining
         anchors.fill: parent
@@ -61,7 +69,7 @@ Item {
             if (!_top.logic.applyAutopilot())
                 _top.focusWanted();
         }
-        onFocusWanted: _top.focusWanted()
+        onFocusWanted: Qt.callLater(_top.passKeys)
     }
     Connections {
         target: _top.logic.stack

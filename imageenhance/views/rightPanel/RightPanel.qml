@@ -63,6 +63,13 @@ Rectangle {
             _beside.addPanel.toggle();
     }
 
+    // Up or Down while nothing else has the keyboard.
+    function arrowPressed(event: KeyEvent): void {
+        event.accepted = event.modifiers === Qt.NoModifier || event.modifiers === Qt.KeypadModifier;
+        if (event.accepted)
+            focusFirstItem();
+    }
+
     function focusFirstItem(): void {
         _beside.addPanel.focusFirstItem();
     }

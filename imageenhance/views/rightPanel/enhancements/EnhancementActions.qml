@@ -15,7 +15,8 @@ QtObject {
 
     signal estimateFileSize
     signal hoverPreview(bool showMask, int editMode)
-    signal panelFocusWanted
+    signal panelFocusWanted // by its first control
+    signal panelKeysWanted // by none of them: Tab and Escape are the panel's
     signal listFocusWanted
     signal panelMenuWanted(Item below)
 

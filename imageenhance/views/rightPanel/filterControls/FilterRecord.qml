@@ -18,5 +18,5 @@ QtObject {
     readonly property var autoParams: _advised.params ?? {}
 
     readonly property var _filter: controls.currentChanges >= 0 ? controls.currentFilter(filterName) : {}
-    readonly property var _advised: controls.advicesHeard >= 0 ? controls.advisedFilter(parentCategory) : {}
+    readonly property var _advised: controls.currentImage !== "" && controls.advicesHeard >= 0 ? controls.advisedFilter(parentCategory) : {}
 }

@@ -24,7 +24,7 @@ QtObject {
     readonly property var filter: controls.currentChanges >= 0 ? controls.currentFilter(filterName) : {}
     readonly property var params: filter.params ?? ({})
     readonly property string model: filter.model || "Standard"
-    readonly property var autoFilter: controls.advicesHeard >= 0 ? controls.advisedFilter(parentCategory) : {} // Autopilot's
+    readonly property var autoFilter: controls.currentImage !== "" && controls.advicesHeard >= 0 ? controls.advisedFilter(parentCategory) : {} // Autopilot's
 
     readonly property real scale: _private.current.scale
     readonly property real width: _private.current.width // output pixels
