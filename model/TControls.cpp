@@ -3,6 +3,8 @@
 #include "contracts/FilterNames.h"
 #include "frontends/TImageUtils.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 TControls::TControls(QObject *parent)
@@ -29,6 +31,13 @@ QVariantMap TControls::currentFilter(const QString &filterName) const {
         return {};
     const auto filter = record->filterControls.constFind(filterName);
     return filter == record->filterControls.cend() ? QVariantMap() : filter->toMap();
+}
+
+bool TControls::isFineAsItIs() const {
+    const QVariantMap advice = currentSettings().autoPilotSettings;
+    return !advice.isEmpty() && std::ranges::none_of(advice, [](const QVariant &filter) {
+        return filter.toMap().value(Keys::Enabled).toBool();
+    });
 }
 
 QVariantMap TControls::advisedFilter(const QString &category) const {

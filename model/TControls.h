@@ -67,6 +67,10 @@ public:
     /// `currentChanges`, or on `currentImage` and `advicesHeard`, is told when to ask again.
     Q_INVOKABLE QVariantMap currentFilter(const QString &filterName) const;
     Q_INVOKABLE QVariantMap advisedFilter(const QString &category) const;
+    /// A TImageSettings::AutoPilotStatus.
+    Q_INVOKABLE int autoPilotStatus() const { return currentSettings().autoPilot; }
+    /// Whether Autopilot has answered about the current image and would put nothing on it.
+    Q_INVOKABLE bool isFineAsItIs() const;
     int currentChanges() const { return currentSettings().changesCount; }
     int advicesHeard() const { return m_advicesHeard; }
     QVariantMap currentImageData() const;

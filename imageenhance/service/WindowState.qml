@@ -27,8 +27,7 @@ QtObject {
     readonly property real imageOriginalResolution: imageData.resolution ?? 72
     readonly property int imageOriginalResolutionUnit: imageData.resolutionUnit ?? TImageSettings.Inches
 
-    readonly property var currentControls: controls.currentControls
-    readonly property bool autopilotRunning: imageOpen && currentControls.autoPilot === TImageSettings.Processing
+    readonly property bool autopilotRunning: imageOpen && controls.currentChanges >= 0 && controls.autoPilotStatus() === TImageSettings.Processing
 
     readonly property bool isRefining: editMode !== EditMode.None
     readonly property bool isCropping: editMode === EditMode.Crop
@@ -41,8 +40,8 @@ QtObject {
     readonly property bool hidesPreview: isSaving || isExporting
 
     readonly property real currentScale: {
-        const enhance = currentControls[controls.categories.enhance];
-        return enhance?.enabled ? enhance.params?.scale ?? 1 : 1;
+        const enhance = controls.currentChanges >= 0 ? controls.currentFilter(controls.categories.enhance) : {};
+        return enhance.enabled ? enhance.params.scale ?? 1 : 1;
     }
     readonly property size inputSize: {
         const ofFile = reader.filepath !== "" ? helpers.imageUtils.imageSize(reader.filepath) : Qt.size(-1, -1);

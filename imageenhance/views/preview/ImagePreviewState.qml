@@ -21,7 +21,6 @@ QtObject {
     signal requestProc(rect roi)
 
     readonly property var result: source.result // result map
-    readonly property var currentControls: windowState.currentControls // controls map
     readonly property string currentImage: windowState.controls.currentImage
     readonly property real pixelRatio: windowState.helpers.osUtils.devicePixelRatio()
     readonly property bool cropping: windowState.isCropping
@@ -56,7 +55,14 @@ QtObject {
         if (isOfThisImage && hasResult)
             _private.setScale(result.scale ?? 1);
     }
-    onCurrentControlsChanged: _private.setScale(_private.enhanceScale())
+
+    readonly property Connections _ofControls: Connections {
+        target: _top.windowState.controls
+
+        function onCurrentControlsChanged(): void {
+            _private.setScale(_private.enhanceScale());
+        }
+    }
 
     readonly property QtObject _private: QtObject {
         id: _private
@@ -64,8 +70,9 @@ QtObject {
         property real currentScale: 1
 
         function enhanceScale(): real {
-            const enhance = _top.currentControls[_top.windowState.controls.categories.enhance];
-            return enhance?.enabled ? enhance.params?.scale ?? 1 : 1;
+            const controls = _top.windowState.controls;
+            const enhance = controls.currentFilter(controls.categories.enhance);
+            return enhance.enabled ? enhance.params.scale ?? 1 : 1;
         }
 
         function emitRequest(): void {

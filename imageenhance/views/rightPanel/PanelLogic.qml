@@ -29,10 +29,7 @@ QtObject {
     readonly property int faceCount: problems.faceCount ?? -1
     readonly property bool resizingSupported: !windowState.pluginMode || windowState.integrations.resizingSupported
     // Autopilot has answered, and would put nothing on the image.
-    readonly property bool isFineAsItIs: {
-        const advised = Object.values(windowState.currentControls.autoPilotSettings ?? {});
-        return advised.length > 0 && !advised.some(filter => filter.enabled);
-    }
+    readonly property bool isFineAsItIs: controls.currentImage !== "" && controls.advicesHeard >= 0 && controls.isFineAsItIs()
 
     signal autopilotNeedsConfirmation // it would replace the filters that the image has
     signal autopilotAdded

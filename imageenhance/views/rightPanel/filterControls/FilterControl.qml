@@ -16,6 +16,7 @@ Item {
         controls: _top.controls
         filterName: _top.filterName
         parentCategory: _top.parentCategory
+        followed: _top.visible
     }
 
     property bool shown: true // whether there is anything to set

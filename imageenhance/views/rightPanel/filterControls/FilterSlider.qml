@@ -49,7 +49,7 @@ PbLabeledSlider {
         property bool ready: false
 
         function write(): void {
-            if (!ready || !(_top.alwaysWrites || Percent.differs(_top._stored, _top.value, _top.from)))
+            if (!ready || !_top.control.record.followed || !(_top.alwaysWrites || Percent.differs(_top._stored, _top.value, _top.from)))
                 return;
             if (_top.value !== _top._shown)
                 store();
@@ -59,7 +59,7 @@ PbLabeledSlider {
 
         // A filter that was removed is not brought back.
         function store(): void {
-            if (!_top.control.record.exists)
+            if (!_top.control.record.followed || !_top.control.record.exists)
                 return;
             const value = _top.value / 100;
             const controls = _top.control.controls;
