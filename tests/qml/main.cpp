@@ -16,7 +16,8 @@
 Q_IMPORT_QML_PLUGIN(PebbleUIPlugin)
 Q_IMPORT_QML_PLUGIN(ImageEnhancePlugin)
 
-// What the documents have logged since begin(), in their order; and the one script error that a test waits for.
+// What the documents have logged since begin(), in their order; and the one script error that a test waits
+// for.
 class LogLines : public QObject {
     Q_OBJECT
 
