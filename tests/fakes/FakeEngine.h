@@ -8,7 +8,27 @@
 #include <mutex>
 #include <vector>
 
-/// An engine that gives back its input. Scripts are set before the work begins; records may be read
+/// A function that a test may replace at any time: a call that is under way goes on with the one that it
+/// began with.
+template <typename Function>
+class Script {
+public:
+    Script &operator=(Function function) {
+        const std::scoped_lock lock(m_mutex);
+        m_function = std::move(function);
+        return *this;
+    }
+    Function current() const {
+        const std::scoped_lock lock(m_mutex);
+        return m_function;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    Function m_function;
+};
+
+/// An engine that gives back its input. The advice is set before the work begins; records may be read
 /// at any time. Close a hold to keep work of that kind under way.
 class FakeEngine : public ProcessingBackend {
 public:
@@ -18,8 +38,8 @@ public:
 
     QVariantMap models;
     AutopilotAnswer advice; ///< the answer unless onAnalyse is set
-    Analyse onAnalyse;
-    Process onProcess;
+    Script<Analyse> onAnalyse;
+    Script<Process> onProcess;
     Hold analysisHold;
     Hold processHold;
 
@@ -40,14 +60,15 @@ public:
         record(m_analyses, {input, options});
         if (!analysisHold.pass(control))
             return {.cancelled = true};
-        return onAnalyse ? onAnalyse(input, options, control) : advice;
+        const Analyse scripted = onAnalyse.current();
+        return scripted ? scripted(input, options, control) : advice;
     }
     ProcResult process(const ProcRequest &request, const RunControl &control) override {
         record(m_requests, request);
         if (!processHold.pass(control))
             return {.cancelled = true};
-        if (onProcess)
-            return onProcess(request, control);
+        if (const Process scripted = onProcess.current())
+            return scripted(request, control);
         return {.image = std::const_pointer_cast<ImageData>(request.input.image), .region = request.region};
     }
     void clearCache(const QString &uid) override { record(m_cleared, uid); }
