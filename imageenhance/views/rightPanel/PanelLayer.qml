@@ -21,14 +21,6 @@ Item {
 
     readonly property WindowState _window: logic.windowState
 
-    // From the add panel to what it has opened, or back to the window.
-    function passKeys(): void {
-        if (logic.stack.expandedFilter)
-            logic.actions.panelKeysWanted();
-        else
-            focusWanted();
-    }
-
     RefineLayer {
         id: _refining
         anchors.fill: parent
@@ -69,7 +61,7 @@ Item {
             if (!_top.logic.applyAutopilot())
                 _top.focusWanted();
         }
-        onFocusWanted: Qt.callLater(_top.passKeys)
+        onFocusWanted: _top.focusWanted()
     }
     Connections {
         target: _top.logic.stack

@@ -89,10 +89,6 @@ FocusScope {
         target: _top.actions
         enabled: _top.open
 
-        function onPanelKeysWanted(): void {
-            _top.forceActiveFocus(Qt.OtherFocusReason);
-        }
-
         function onPanelFocusWanted(): void {
             const first = _header.nextItemInFocusChain(true);
             first?.forceActiveFocus(Qt.TabFocusReason);

@@ -15,8 +15,7 @@ QtObject {
 
     signal estimateFileSize
     signal hoverPreview(bool showMask, int editMode)
-    signal panelFocusWanted // by its first control
-    signal panelKeysWanted // by none of them: Tab and Escape are the panel's
+    signal panelFocusWanted
     signal listFocusWanted
     signal panelMenuWanted(Item below)
 
