@@ -89,10 +89,10 @@ protected:
         EXPECT_TRUE(out.open(QFile::WriteOnly) && out.write(content) == content.size());
     }
 
-    /// The rows are the fourth stop before the window itself; the fourth entry of a row's menu removes them
+    /// The rows are the second stop before the window itself; the fourth entry of a row's menu removes them
     /// all.
     static bool removeAll() {
-        return press(QStringList(4, u"shift+Tab"_s) << u"Menu"_s << QStringList(4, u"Down"_s) << u"Return"_s);
+        return press(QStringList(2, u"shift+Tab"_s) << u"Menu"_s << QStringList(4, u"Down"_s) << u"Return"_s);
     }
 };
 
